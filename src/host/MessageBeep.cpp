@@ -1,0 +1,7 @@
+#include "host/MessageBeep.h"
+
+#include "platform/Platform.h"
+
+BOOL VESKMessageBeep(UINT uType) {
+    return MessageBeep(uType);
+}

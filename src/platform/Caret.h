@@ -1,0 +1,25 @@
+// The caret: one for the thread, owned by the window that created it, made
+// hidden and shown by ShowCaret; hides and shows nest. The state is kept
+// here, portably; the owner's peer is told to draw it.
+#pragma once
+
+#include "platform/Types.h"
+
+struct CaretInfo {
+    CWnd* pOwner = nullptr;  // null: there is no caret
+    int nWidth = 0;          // 0 asks for the system's width
+    int nHeight = 0;
+    POINT pt;
+    int nHideCount = 0;
+    bool IsVisible() const { return pOwner && nHideCount == 0; }
+};
+
+const CaretInfo& GetCaretInfo();
+
+BOOL CreateCaret(HWND hWnd, void* hBitmap, int nWidth, int nHeight);
+BOOL DestroyCaret();
+BOOL ShowCaret(HWND hWnd);
+BOOL HideCaret(HWND hWnd);
+BOOL SetCaretPos(int x, int y);
+// FALSE when there is no caret.
+BOOL GetCaretPos(POINT* ppt);

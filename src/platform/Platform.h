@@ -1,0 +1,123 @@
+// The services of the window system, behind one interface that a backend
+// installs for the process (the headless one in tests, the Qt one in a real
+// host), and free functions with the desktop platform's names over it.
+// With no platform installed the free functions answer harmlessly: no key
+// is down, the clock stands at 0, nothing beeps.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "platform/Types.h"
+
+class CDC;
+class CWnd;
+class IWindowPeer;
+class COleDropTarget;
+struct CREATESTRUCTA;
+
+using HOOKPROC = LRESULT (*)(int nCode, WPARAM wParam, LPARAM lParam);
+struct HookObject {
+    HOOKPROC pfn;
+};
+using HHOOK = HookObject*;
+
+class IPlatform {
+public:
+    virtual ~IPlatform() = default;
+
+    // Windows and drawing contexts.
+    virtual std::unique_ptr<IWindowPeer> CreateWindowPeer(CWnd* pWnd, const CREATESTRUCTA& cs) = 0;
+    // A context for measuring and drawing off screen, on the display's
+    // resolution (the desktop platform's CreateDC("DISPLAY")).
+    virtual std::unique_ptr<CDC> CreateDisplayDC() = 0;
+    virtual void OnWindowDestroyed(CWnd* pWnd) = 0;
+
+    // The thread's message queue.
+    virtual void PostMessage(CWnd* pWnd, UINT message, WPARAM wParam, LPARAM lParam) = 0;
+    virtual BOOL PeekMessage(MSG* pMsg, CWnd* pWnd, UINT nFilterMin, UINT nFilterMax,
+                             UINT nRemove) = 0;
+
+    // Input state.
+    virtual SHORT GetKeyState(int nVirtKey) = 0;
+    virtual DWORD GetTickCount() = 0;
+    virtual BOOL GetCursorPos(POINT* ppt) = 0;
+    virtual CWnd* SetFocus(CWnd* pWnd) = 0;
+    virtual CWnd* GetFocus() = 0;
+    virtual CWnd* SetCapture(CWnd* pWnd) = 0;
+    virtual BOOL ReleaseCapture() = 0;
+    virtual CWnd* GetCapture() = 0;
+    virtual HCURSOR SetCursor(HCURSOR hCursor) = 0;
+    virtual void BeginWaitCursor() = 0;
+    virtual void EndWaitCursor() = 0;
+
+    // The system.
+    virtual COLORREF GetSysColor(int nIndex) = 0;
+    virtual int GetSystemMetrics(int nIndex) = 0;
+    virtual BOOL MessageBeep(UINT uType) = 0;
+
+    // The clipboard, in CF_TEXT: 8-bit bytes with CR LF line ends.
+    virtual BOOL OpenClipboard(CWnd* pWnd) = 0;
+    virtual BOOL CloseClipboard() = 0;
+    virtual BOOL EmptyClipboard() = 0;
+    virtual BOOL SetClipboardData(UINT uFormat, const std::string& data) = 0;
+    virtual BOOL GetClipboardData(UINT uFormat, std::string* pData) = 0;
+    virtual BOOL IsClipboardFormatAvailable(UINT uFormat) = 0;
+
+    // Drag and drop of text between windows and applications. DoDragDrop
+    // runs until the drop or the cancel and returns the effect performed;
+    // the drop may land in a window of this process meanwhile.
+    virtual DWORD DoDragDrop(CWnd* pSource, const std::string& text, DWORD dwAllowed) = 0;
+    virtual BOOL RegisterDropTarget(CWnd* pWnd, COleDropTarget* pTarget) = 0;
+    virtual void RevokeDropTarget(CWnd* pWnd) = 0;
+
+    // Thread keyboard hooks: every key event goes through them first.
+    virtual HHOOK SetKeyboardHook(HOOKPROC pfn) = 0;
+    virtual BOOL Unhook(HHOOK hHook) = 0;
+};
+
+// The installed platform, or null.
+IPlatform* GetPlatform();
+// Installs a platform (null uninstalls); returns the one it replaces.
+IPlatform* SetPlatform(IPlatform* pPlatform);
+
+SHORT GetKeyState(int nVirtKey);
+DWORD GetTickCount();
+COLORREF GetSysColor(int nIndex);
+int GetSystemMetrics(int nIndex);
+BOOL GetCursorPos(POINT* ppt);
+BOOL MessageBeep(UINT uType);
+
+HCURSOR LoadCursorA(HINSTANCE hInstance, int nCursorId);
+HCURSOR SetCursor(HCURSOR hCursor);
+int GetCursorId(HCURSOR hCursor);
+
+HWND SetFocus(HWND hWnd);
+HWND GetFocus();
+HWND SetCapture(HWND hWnd);
+BOOL ReleaseCapture();
+HWND GetCapture();
+
+BOOL PostMessageA(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
+LRESULT SendMessageA(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
+BOOL PeekMessageA(MSG* pMsg, HWND hWnd, UINT nFilterMin, UINT nFilterMax, UINT nRemove);
+// Ids from 0xC000 up, the same id for the same name within the process.
+UINT RegisterWindowMessageA(const char* pszName);
+
+BOOL OpenClipboard(HWND hWnd);
+BOOL CloseClipboard();
+BOOL EmptyClipboard();
+BOOL SetClipboardData(UINT uFormat, const std::string& data);
+BOOL GetClipboardData(UINT uFormat, std::string* pData);
+BOOL IsClipboardFormatAvailable(UINT uFormat);
+
+HHOOK SetWindowsHookExA(int idHook, HOOKPROC lpfn, HINSTANCE hMod, DWORD dwThreadId);
+BOOL UnhookWindowsHookEx(HHOOK hHook);
+LRESULT CallNextHookEx(HHOOK hHook, int nCode, WPARAM wParam, LPARAM lParam);
+
+// A display context the caller frees with DeleteDC; null without a platform
+// or for a device this system cannot open.
+HDC CreateDCA(const char* pszDriver, const char* pszDevice, const char* pszPort,
+              const void* pInitData);
+BOOL DeleteDC(HDC hDC);

@@ -1,0 +1,142 @@
+#include "textzone/StringEx.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+constexpr char kLineEnd = 13;
+
+bool IsBlank(char c) {
+    return c == ' ' || c == '\t';
+}
+
+// Taken as unsigned so that no byte of 128 or above can pass for one.
+bool IsWrapDelimiter(char c) {
+    unsigned char u = static_cast<unsigned char>(c);
+    return u == 9 || u == 32 || u == 45;
+}
+
+}  // namespace
+
+CStringEx::CStringEx(const char* psz) : VESK::String(psz) {}
+
+int CStringEx::IsEnded() const {
+    int n = GetLength();
+    return n != 0 && c_str()[n - 1] == kLineEnd ? 1 : 0;
+}
+
+void CStringEx::EnsureEnded() {
+    if (!IsEnded()) *this += kLineEnd;
+}
+
+void CStringEx::EnsureMinimumLength(int nLength) {
+    int bEnded = IsEnded();
+    int nSpaces = nLength - GetLength() + bEnded;
+    if (nSpaces <= 0) return;
+    // The old 13 stays in front of the padding: callers pad unended lines or
+    // throwaway copies they only measure, so it is not worth taking out.
+    *this += VESK::String(' ', nSpaces);
+    if (bEnded) *this += kLineEnd;
+}
+
+int CStringEx::GetVisibleLength() {
+    const char* p = c_str();
+    int n = GetLength() - IsEnded();
+    while (n > 0 && IsBlank(p[n - 1]))
+        --n;
+    return n;
+}
+
+int CStringEx::FindFirstDelimiter() const {
+    const char* p = c_str();
+    int i = 0;
+    while (IsBlank(p[i]))
+        ++i;
+    // The 0 behind the text stops the scan; the 13 does not.
+    while (p[i] && !IsWrapDelimiter(p[i]))
+        ++i;
+    return p[i] ? i : -1;
+}
+
+int CStringEx::GetFirstWordLength() {
+    if (GetLength() == IsEnded()) return 0;
+    int nDelim = FindFirstDelimiter();
+    if (nDelim < 0) return GetLength() - IsEnded();
+    // A leading hyphen still counts as a word of one, so the paragraph code
+    // always makes progress.
+    return nDelim < 1 ? 1 : nDelim;
+}
+
+void CStringEx::InsertChar(int nPos, char c) {
+    // No terminator check: at the raw length of an ended line, c lands behind the 13.
+    insertAt(nPos > GetLength() ? GetLength() : nPos, c);
+}
+
+void CStringEx::RemoveChar(int nPos, int nCount, int bKeepEnd) {
+    int nLength = GetLength();
+    if (nPos < 0 || nPos >= nLength || nCount < 1) return;
+    int nEnd = nCount > nLength - nPos ? nLength : nPos + nCount;
+    if (bKeepEnd && IsEnded() && nEnd > nLength - 1) nEnd = nLength - 1;
+    deleteAt(nPos, nEnd - nPos);
+}
+
+int CStringEx::TransferStart(CStringEx& target, int bByWord) {
+    if (IsEmpty()) return 0;
+    int nCount = 1;
+    if (bByWord) {
+        int nDelim = FindFirstDelimiter();
+        // The delimiter goes up with its word.
+        nCount = nDelim < 0 ? GetLength() - IsEnded() : (nDelim < 1 ? 1 : nDelim) + 1;
+    }
+    target += left(nCount);
+    discardLeft(nCount);
+    return 1;
+}
+
+int CStringEx::TransferEnd(CStringEx& target, int bByWord) {
+    if (IsEmpty()) return 0;
+    int nCount = 1;
+    if (bByWord) {
+        const char* p = c_str();
+        int nLength = GetLength();
+        int i = nLength - 1 - IsEnded();
+        int nDelims = 0;
+        while (i >= 0 && IsWrapDelimiter(p[i])) {
+            --i;
+            ++nDelims;
+        }
+        // A run of delimiters goes down one byte per call; a single one goes
+        // with the word in front of it.
+        if (nDelims <= 1 && i >= 0) {
+            while (i >= 0 && !IsWrapDelimiter(p[i]))
+                --i;
+            if (i >= 0) nCount = nLength - i - 1;  // with the terminator
+        }
+    }
+    // A count of 1 on an ended line moves the 13: that is how the paragraph
+    // end travels down when a long line is cut.
+    target.insertAt(0, right(nCount));
+    discardRight(nCount);
+    return 1;
+}
+
+void CStringEx::TransferStartingSpaces(CStringEx& target) {
+    const char* p = c_str();
+    int n = 0;
+    while (IsBlank(p[n]))
+        ++n;
+    if (n == 0) return;
+    target += left(n);
+    discardLeft(n);
+}
+
+char* CStringEx::GetSpecificInfo() {
+    char* pszInfo = new char[10];
+    std::snprintf(pszInfo, 10, "%d", static_cast<int>(m_dwBookmarks));
+    return pszInfo;
+}
+
+void CStringEx::SetSpecificInfo(char* pszInfo) {
+    m_dwBookmarks = pszInfo ? static_cast<DWORD>(std::atoi(pszInfo)) : 0;
+}
