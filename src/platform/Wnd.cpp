@@ -70,16 +70,15 @@ BOOL CWnd::DestroyWindow() {
     if (!m_pPeer) return FALSE;
     SendMessage(WM_DESTROY);
     std::vector<CWnd*> children = m_children;
-    for (CWnd* child : children) {
+    for (CWnd* child : children)
         child->DestroyWindow();
-        child->DetachFromParent();
-    }
     WindowProc(WM_NCDESTROY, 0, 0);
     if (GetCaretInfo().pOwner == this) DestroyCaret();
     if (IPlatform* platform = GetPlatform()) platform->OnWindowDestroyed(this);
     m_dcs.clear();
     m_pPeer.reset();
     m_rgnUpdate.SetEmpty();
+    DetachFromParent();  // a destroyed window is nobody's child
     return TRUE;
 }
 

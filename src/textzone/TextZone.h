@@ -1,0 +1,310 @@
+// The engine: one object per edited text. It owns the lines, the selection,
+// the undo history and the collapsible blocks, and everything it needs to
+// draw and to react to input; a window forwards its messages to it.
+//
+// Every operation that the class lists as virtual is virtual and is called
+// through this object, also from inside the class, so that derived zones
+// (colouring, parameter, read-only) see every step. The virtual operations
+// are declared in their fixed slot order; the source is cut by topic.
+#pragma once
+
+#include <list>
+#include <memory>
+
+#include "host/GraphicText.h"
+#include "host/VeskString.h"
+#include "platform/Types.h"
+#include "textzone/EditBlk.h"
+#include "textzone/StringEx.h"
+#include "textzone/UndoOperation.h"
+
+class CDC;
+class CWnd;
+class CScrollBar;
+class CImageList;
+
+// Style bits of a zone.
+constexpr DWORD ZS_AUTOINDENT = 1;
+constexpr DWORD ZS_PARAGRAPH = 2;
+constexpr DWORD ZS_WORDBREAK = 4;
+constexpr DWORD ZS_VARHEIGHT = 8;
+constexpr DWORD ZS_SELTOEDGE = 16;
+constexpr DWORD ZS_FREECARET = 32;
+constexpr DWORD ZS_CUTLONGLINES = 64;
+
+// Limits of the engine.
+constexpr int TZ_MAX_LINES = 10000000;          // edits stop at this last line index
+constexpr int TZ_MAX_LINE_LENGTH = 65500;       // bytes of text on a line
+constexpr int TZ_MAX_PARAGRAPH_LINE = 0x10000;  // the same with ZS_PARAGRAPH
+constexpr int TZ_MAX_UNDO = 100;
+constexpr int TZ_TO_END = 0x7FFFFFFF;  // a last line meaning "to the end"
+
+// Text flags of the readers.
+constexpr WORD TF_LF = 1;              // line end LF (the two low bits)
+constexpr WORD TF_CRLF = 2;            // line end CR LF; other values give CR
+constexpr WORD TF_WRAPPED_ENDS = 4;    // a line end also at wrapped lines
+constexpr WORD TF_STRIP_TRAILING = 8;  // strip blanks at the end of ended lines
+constexpr WORD TF_LEADING_TABS = 16;   // leading blanks become tabs
+constexpr WORD TF_NO_FINAL_END = 32;   // no line end behind the last line
+
+class CTextZone {
+public:
+    CTextZone();
+    virtual ~CTextZone();
+    CTextZone(const CTextZone&) = delete;
+    CTextZone& operator=(const CTextZone&) = delete;
+
+protected:
+    virtual int ExtendGranularity();
+    virtual int ComputeParagraph(int nLine, int* pbChanged);
+    virtual void RebuildAllParagraphs();
+    virtual int GetMaxLineWidth(int nFirst, int nLast);
+    virtual int GetCurrentLineWidth();
+    virtual void GetSpaceEquivalentLine(CStringEx* pTarget, const CStringEx* pSource);
+    virtual int ComputeCharIndex(int nLine, int nColumn);
+    virtual int ComputeBlockUnit(int nLine, int nChar);
+
+public:
+    virtual int GetLineIndexes(int nLine, int* pBlock, int* pIndex);
+    virtual CStringEx* InsertLine(int nLine);
+    virtual void RemoveLines(int nFirst, int nCount);
+    virtual void FreeAllLines();
+    virtual CStringEx* GetLine(int nLine);
+    virtual void RedrawLines(int nFirst, int nLast, int bUpdate);
+    virtual void RedrawTextZone();
+    virtual void DeleteSelection(int bUpdate);
+    virtual int InsertText(const char* pszText, int bSelect, int bScroll, int bHorizontal);
+    virtual int TestSelection();
+    virtual int GetLineCount();
+    virtual int GetLastLineIndex();
+    virtual void UpdateHScrollBar(int nFirst, int nLast);
+    virtual void UpdateVScrollBar();
+    virtual void DrawCaret(int bScroll, int bHorizontal);
+    virtual void HideCaret();
+    virtual LONG GetLinePosition(int nLine);
+    virtual int GetLineHeight(int nLine);
+    virtual void FreeAllEditBlocks();
+    virtual int SetEditBlock(int nLine, int nCount);
+    virtual void BeginEditBlockInput();
+    virtual int AddEditBlockInput(int nLine, int nCount);
+    virtual void EndEditBlockInput();
+    virtual int OpenBlock(int nLine, int bUpdate);
+    virtual int CloseBlock(int nLine, int bUpdate);
+    virtual int CreateClosedAltBlock(int nLine, int nCount, int bUpdate);
+    virtual void GetEditorBlockStatus(VESK::String& strStatus);
+    virtual void SetEditorBlockStatus(VESK::String& strStatus);
+    virtual void MakeUpperOrLower(int bLower);
+
+protected:
+    virtual CStringEx* CreateLine();
+    virtual void DrawTextLine(CDC* pDC, int nLine);
+    virtual CDC* GetStandardDC();
+    virtual void ReleaseStandardDC(CDC* pDC);
+    virtual int GetTextWidth(CDC* pDC, const char* pszText, int nCount);
+    virtual LONG GetVScrollOffset();
+    virtual LONG GetHScrollOffset();
+
+public:
+    virtual void SetWindow(CWnd* pWnd);
+    virtual CWnd* GetWindow();
+    virtual void SetRect(const RECT* prc);
+    virtual void GetRect(RECT* prc);
+    virtual void SetFont(HFONT hFont);
+    virtual HFONT GetFont();
+    virtual int IsFontProportionnal();
+    virtual void SetReservedTopLines(int nLines);
+    virtual int GetReservedTopLines();
+    virtual void SetTabWidth(int nTabWidth);
+    virtual int GetTabWidth();
+    virtual void SetTabConvert(int bTabConvert);
+    virtual int GetTabConvert();
+    virtual void SetColors(COLORREF crText, COLORREF crBack, COLORREF crSelText,
+                           COLORREF crSelBack);
+    virtual void GetColors(COLORREF* pcrText, COLORREF* pcrBack, COLORREF* pcrSelText,
+                           COLORREF* pcrSelBack);
+    virtual void SetScrollbars(CScrollBar* pVScrollBar, CScrollBar* pHScrollBar);
+    virtual void SetStyle(DWORD dwStyle);
+    virtual DWORD GetStyle();
+    virtual void SetReadOnly(int bReadOnly);
+    virtual int GetReadOnly();
+    virtual void SetModify(int bModify);
+    virtual int GetModify();
+    virtual void SetMaxLength(LONG lMaxLength);
+    virtual LONG GetMaxLength();
+    virtual void SetNoBlockFlag(int bNoBlock);
+    virtual int GetNoBlockFlag();
+    virtual void SetMaxWidth(int nMaxWidth);
+    virtual int GetMaxWidth();
+    virtual int SetText(const char* pszText);
+    virtual void GetText(char* pBuffer, LONG lSize, WORD wFlags);
+    virtual void SetSelection(LONG lStart, LONG lEnd, int nStartChar, int nEndChar, short wMode,
+                              int bRedraw);
+    virtual short GetSelection(LONG* plStart, LONG* plEnd, int* pnStartChar, int* pnEndChar,
+                               short wMode);
+    virtual void StartSelection();
+    virtual void CancelSelection(int bRedraw);
+    virtual void DefineSelectionFromRoot(int nLine, int nChar);
+    virtual int GetSelRootLine();
+    virtual int GetSelRootChar();
+    virtual int GetSelMobileLine();
+    virtual int GetSelMobileChar();
+    virtual void SetRedraw(int bRedraw);
+    virtual int GetRedraw();
+    virtual void SetSelectionMode(short wMode);
+    virtual short GetSelectionMode();
+    virtual void SetDragDropFlag(int bDragDrop);
+    virtual void GetPartOfText(char* pBuffer, LONG lSize, LONG lFirstLine, LONG lLastLine,
+                               int nFirstChar, int nLastChar, WORD wMode, WORD wFlags);
+    virtual void SetMarginMode(int bMarginMode);
+    virtual int IsMarginMode();
+    virtual void SetMarginModeImageList(CImageList* pImages);
+    virtual void SetMarginColor(COLORREF crMargin);
+    virtual void SetMarginWidth(UINT nWidth);
+    virtual int GetMarginWidth();
+    virtual void SetBlockMode(int bBlockMode);
+    virtual int IsBlockMode() const;
+    virtual int GetBookmarkImageIndex(int nIndex);
+    virtual COLORREF GetBookmarkColor(int nIndex);
+    virtual COLORREF GetMarginColor();
+    virtual CImageList* GetMarginModeImageList();
+    virtual void ToggleBookmark();
+    virtual void GotoNextBookmark(int bPrevious);
+    virtual void SetFirstVisiblePosition(int nLine, int nChar);
+    virtual void HandleLButtonDown(UINT nFlags, POINT* pt);
+    virtual void HandleLButtonUp(UINT nFlags, POINT* pt);
+    virtual void HandleLButtonDblClk(UINT nFlags, POINT* pt);
+    virtual void HandleMouseMove(UINT nFlags, POINT* pt);
+    virtual void HandleKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    virtual void HandleChar(UINT nChar, UINT nRepCnt, UINT nFlags);
+    virtual void HandlePaint(CDC* pDC);
+    virtual void HandleVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
+    virtual void HandleHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
+    virtual void HandleSetFocus(CWnd* pOldWnd);
+    virtual void HandleKillFocus(CWnd* pNewWnd);
+    virtual LONG HandleUserMessage(std::uint64_t wParam, std::int64_t lParam);
+    virtual int Cut();
+    virtual int Copy();
+    virtual int Paste();
+    virtual void OnTextTooLong();
+    virtual int PtInSelection(POINT* pt);
+    virtual LONG LineIndex(int nLine);
+    virtual int LineFromChar(LONG lChar, WORD wFlags);
+    virtual void RebuildCurrentLength();
+    virtual int GetLineFromPoint(POINT* pt);
+    virtual int GetCharIndexFromPoint(CStringEx* pLine, POINT* pt);
+    virtual int GetLineTopPos(int nLine);
+    virtual void GetSelectedText(char* pBuffer, LONG lSize, WORD wFlags);
+    virtual LONG GetTextLength(WORD wFlags);
+    virtual LONG GetSelectedTextLength(WORD wFlags);
+    virtual int FindTextFromCurrentPos(const char* pszText, int bForward, int bMatchCase);
+    virtual int SameAsSelected(const char* pszText, int bMatchCase);
+    virtual int IsEmpty();
+    virtual void StartRegister(short wType);
+    virtual void RegisterUnit(WORD wKind);
+    virtual void EndRegister();
+    virtual void FreeAllOperations();
+    virtual void Undo();
+    virtual void Redo();
+    virtual void PerformUndoing(CUndoOperation* pOperation);
+    virtual short GetUndoType();
+    virtual short GetRedoType();
+    virtual void HandleOleLButtonDown(UINT nFlags, POINT* pt);
+    virtual void HandleOleLButtonUp(UINT nFlags, POINT* pt);
+    virtual void HandleOleMouseMove(UINT nFlags, POINT* pt);
+    virtual int HandleOleDrag(UINT nFlags, POINT* pt);
+    virtual int HandleOleDrop(const char* pszText, ULONG dropEffect, POINT* pt);
+    virtual bool IsOleDragAllowed(UINT nFlags, POINT* pt);
+    virtual bool IsOleDropAllowed(UINT nFlags, POINT* pt);
+
+    // Plain members.
+    void CollapseCurrentSel();
+    void ExpandCurrentSel();
+    void GetTextCRCValues(int* pSize, int* pHash);
+    void SetBookmarkColor(COLORREF cr, int nIndex);
+    void SetLineBookmark(int nLine, int nBit, int bOn);
+    const GraphicText& getGraphicText() const { return m_GraphicText; }
+
+protected:
+    bool DoOleMoveItem(POINT* pt);
+    bool DoOlePasteItem(const char* pszText, POINT* pt);
+
+    // The line limit in force: 65500 bytes, 65536 with ZS_PARAGRAPH.
+    int GetLineLimit() const {
+        return (m_dwStyle & ZS_PARAGRAPH) ? TZ_MAX_PARAGRAPH_LINE : TZ_MAX_LINE_LENGTH;
+    }
+
+public:
+    // The members, in the order of the class. Engine code and derived zones
+    // read and write them directly where that is quicker.
+    CWnd* m_pWnd = nullptr;
+    RECT m_rcText;
+    int m_nMaxWidth = 0;
+    int m_nTabWidth = 0;  // > 0 pixels, < 0 average characters, 0 means 20 pixels
+    int m_bTabConvert = 0;
+    DWORD m_dwStyle = 0;
+    int m_bReadOnly = 0;
+    int m_bModify = 0;
+    HFONT m_hFont = nullptr;
+    int m_nLineHeight = 1;
+    int m_nCharWidth = 1;
+    int m_nOverhang = 0;
+    int m_bProportional = 0;
+    COLORREF m_crText = 0;
+    COLORREF m_crBack = 0;
+    COLORREF m_crSelText = 0;
+    COLORREF m_crSelBack = 0;
+    int m_bRedraw = 1;
+    int m_bCaretShown = 0;
+    int m_bMouseSelecting = 0;
+    int m_bNoBlock = 0;
+    WORD m_nSelectionMode = 1;  // 0 lines, 1 stream, 2 box
+    CScrollBar* m_pHScrollBar = nullptr;
+    CScrollBar* m_pVScrollBar = nullptr;
+    int m_nLinesPerUnit = 1;
+    int m_nUnitRemainder = 0;
+    int m_nHScrollMax = 0;
+    int m_nVScrollMax = 0;
+    int m_nHScrollPos = 0;
+    int m_nVScrollPos = 0;
+    int m_nReservedTopLines = 0;
+    int m_nSelStartLine = 0;
+    int m_nSelEndLine = 0;
+    int m_nSelStartChar = 0;
+    int m_nSelEndChar = 0;
+    int m_nLineCount = 0;
+    int m_nCurrentLength = 0;
+    LONG m_lMaxLength = 0;
+    int m_nGranularity = 10;
+    // The line store: a directory of m_nGranularity blocks, each an array of
+    // m_nGranularity line pointers, of which m_pBlockSizes tells how many
+    // are in use. The zone owns the lines.
+    std::unique_ptr<std::unique_ptr<CStringEx*[]>[]> m_ppBlocks;
+    int m_nBlockCount = 0;
+    std::unique_ptr<int[]> m_pBlockSizes;
+    int m_nCacheLine = -1;
+    int m_nCacheBlock = 0;
+    int m_nCacheIndex = 0;
+    int m_nGoalX = -1;
+    DWORD m_dwLastAutoScroll = 0;
+    int m_nSelRootLine = 0;
+    int m_nSelRootChar = 0;
+    LONG m_lSelRootOffset = 0;
+    std::list<std::unique_ptr<CUndoOperation>> m_undoList;  // oldest first
+    std::list<std::unique_ptr<CUndoOperation>> m_redoList;
+    std::unique_ptr<CUndoOperation> m_pCurrentOperation;
+    int m_bUndoing = 0;
+    std::list<std::unique_ptr<CEditBlk>> m_editBlocks;  // sorted by first line
+    std::list<std::unique_ptr<CEditBlk>> m_inputBlocks;
+    std::list<std::unique_ptr<CEditBlk>> m_altBlocks;
+    int m_bMarginMode = 0;
+    int m_bBlockMode = 0;
+    UINT m_nMarginWidth = 16;
+    COLORREF m_crBookmark[16];
+    COLORREF m_crMargin = 0xC0C0C0;
+    CImageList* m_pMarginImages = nullptr;
+    int m_bDragDrop = 1;
+    int m_nDragState = 0;
+    int m_bRepaintBeforeScroll = 0;
+    GraphicText m_GraphicText;
+    bool m_bDragCopyCursor = false;
+};

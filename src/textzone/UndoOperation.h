@@ -1,0 +1,19 @@
+// What one edit did: at most two units, or any number in a group operation
+// (kinds from 0x8000 up, such as Replace All).
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "platform/Types.h"
+#include "textzone/UndoUnit.h"
+
+class CUndoOperation {
+public:
+    bool IsGroup() const { return (m_wType & 0x8000) != 0; }
+
+    WORD m_wType = 0;
+    std::unique_ptr<CUndoUnit> m_pFirst;
+    std::unique_ptr<CUndoUnit> m_pSecond;
+    std::vector<std::unique_ptr<CUndoUnit>> m_group;  // the units of a group, in order
+};

@@ -1,0 +1,25 @@
+// Fixture for engine tests: a headless window with a zone in it, the zone's
+// text rectangle covering the client area and a fixed-pitch font of
+// 16 pixels (8 pixels a byte) selected.
+#pragma once
+
+#include <string>
+
+#include "platform/Font.h"
+#include "support/HeadlessTest.h"
+#include "textzone/TextZone.h"
+
+class ZoneTest : public HeadlessTest {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    // The whole text with the given flags (CR LF line ends by default).
+    std::string Text(WORD wFlags = TF_CRLF);
+    // The raw bytes of a line, terminator included; "<none>" for no line.
+    std::string Line(int nLine);
+    void ExpectCaret(int nLine, int nChar);
+
+    CFont m_font;
+    CTextZone m_zone;
+};
