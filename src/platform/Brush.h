@@ -1,30 +1,11 @@
 // A solid brush the caller owns.
 #pragma once
 
-#include "platform/GdiObjects.h"
+#include "platform/OwnedGdiObject.h"
 
-class CBrush {
+class CBrush : public COwnedGdiObject<HBRUSH> {
 public:
     CBrush() = default;
-    explicit CBrush(COLORREF cr) : m_hObject(::CreateSolidBrush(cr)) {}
-    ~CBrush() { DeleteObject(); }
-    CBrush(const CBrush&) = delete;
-    CBrush& operator=(const CBrush&) = delete;
-
-    BOOL CreateSolidBrush(COLORREF cr) {
-        DeleteObject();
-        m_hObject = ::CreateSolidBrush(cr);
-        return m_hObject != nullptr;
-    }
-    BOOL DeleteObject() {
-        if (!m_hObject) return FALSE;
-        ::DeleteObject(m_hObject);
-        m_hObject = nullptr;
-        return TRUE;
-    }
-    HBRUSH GetSafeHandle() const { return m_hObject; }
-    operator HBRUSH() const { return m_hObject; }
-
-private:
-    HBRUSH m_hObject = nullptr;
+    explicit CBrush(COLORREF cr) { CreateSolidBrush(cr); }
+    BOOL CreateSolidBrush(COLORREF cr) { return Attach(::CreateSolidBrush(cr)); }
 };

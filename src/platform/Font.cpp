@@ -2,20 +2,6 @@
 
 #include <cstring>
 
-CFont& CFont::operator=(CFont&& o) noexcept {
-    if (this != &o) {
-        DeleteObject();
-        m_hObject = o.Detach();
-    }
-    return *this;
-}
-
-BOOL CFont::CreateFontIndirect(const LOGFONTA* plf) {
-    DeleteObject();
-    m_hObject = CreateFontIndirectA(plf);
-    return m_hObject != nullptr;
-}
-
 BOOL CFont::CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientation, int nWeight,
                        BYTE bItalic, BYTE bUnderline, BYTE cStrikeOut, BYTE nCharSet,
                        BYTE nOutPrecision, BYTE nClipPrecision, BYTE nQuality, BYTE nPitchAndFamily,
@@ -40,24 +26,4 @@ BOOL CFont::CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientatio
 
 int CFont::GetLogFont(LOGFONTA* plf) const {
     return GetObjectA(m_hObject, static_cast<int>(sizeof(LOGFONTA)), plf);
-}
-
-BOOL CFont::DeleteObject() {
-    if (!m_hObject) return FALSE;
-    BOOL ok = ::DeleteObject(m_hObject);
-    m_hObject = nullptr;
-    return ok;
-}
-
-BOOL CFont::Attach(HFONT hFont) {
-    if (!hFont) return FALSE;
-    DeleteObject();
-    m_hObject = hFont;
-    return TRUE;
-}
-
-HFONT CFont::Detach() {
-    HFONT h = m_hObject;
-    m_hObject = nullptr;
-    return h;
 }

@@ -1,30 +1,13 @@
 // A pen the caller owns.
 #pragma once
 
-#include "platform/GdiObjects.h"
+#include "platform/OwnedGdiObject.h"
 
-class CPen {
+class CPen : public COwnedGdiObject<HPEN> {
 public:
     CPen() = default;
-    CPen(int nStyle, int nWidth, COLORREF cr) : m_hObject(::CreatePen(nStyle, nWidth, cr)) {}
-    ~CPen() { DeleteObject(); }
-    CPen(const CPen&) = delete;
-    CPen& operator=(const CPen&) = delete;
-
+    CPen(int nStyle, int nWidth, COLORREF cr) { CreatePen(nStyle, nWidth, cr); }
     BOOL CreatePen(int nStyle, int nWidth, COLORREF cr) {
-        DeleteObject();
-        m_hObject = ::CreatePen(nStyle, nWidth, cr);
-        return m_hObject != nullptr;
+        return Attach(::CreatePen(nStyle, nWidth, cr));
     }
-    BOOL DeleteObject() {
-        if (!m_hObject) return FALSE;
-        ::DeleteObject(m_hObject);
-        m_hObject = nullptr;
-        return TRUE;
-    }
-    HPEN GetSafeHandle() const { return m_hObject; }
-    operator HPEN() const { return m_hObject; }
-
-private:
-    HPEN m_hObject = nullptr;
 };
