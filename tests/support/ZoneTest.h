@@ -9,6 +9,25 @@
 #include "support/HeadlessTest.h"
 #include "textzone/TextZone.h"
 
+// The engine with its protected operations opened for tests.
+class CTestZone : public CTextZone {
+public:
+    using CTextZone::ComputeBlockUnit;
+    using CTextZone::ComputeCharIndex;
+    using CTextZone::ComputeParagraph;
+    using CTextZone::CreateLine;
+    using CTextZone::ExtendGranularity;
+    using CTextZone::GetCurrentLineWidth;
+    using CTextZone::GetHScrollOffset;
+    using CTextZone::GetMaxLineWidth;
+    using CTextZone::GetSpaceEquivalentLine;
+    using CTextZone::GetStandardDC;
+    using CTextZone::GetTextWidth;
+    using CTextZone::GetVScrollOffset;
+    using CTextZone::RebuildAllParagraphs;
+    using CTextZone::ReleaseStandardDC;
+};
+
 class ZoneTest : public HeadlessTest {
 protected:
     void SetUp() override;
@@ -21,5 +40,5 @@ protected:
     void ExpectCaret(int nLine, int nChar);
 
     CFont m_font;
-    CTextZone m_zone;
+    CTestZone m_zone;
 };

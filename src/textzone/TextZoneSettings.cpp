@@ -1,0 +1,258 @@
+// The zone's settings: plain setters and getters, and the few that have to
+// bring the text or the screen in line with a new value.
+#include "platform/DC.h"
+#include "platform/Messages.h"
+#include "platform/Platform.h"
+#include "textzone/TextZone.h"
+
+namespace {
+
+constexpr COLORREF kSystemColor = static_cast<COLORREF>(-1);
+
+COLORREF OrSystemColor(COLORREF cr, int nSysColor) {
+    return cr == kSystemColor ? GetSysColor(nSysColor) : cr;
+}
+
+}  // namespace
+
+void CTextZone::SetWindow(CWnd* pWnd) {
+    m_pWnd = pWnd;
+}
+
+CWnd* CTextZone::GetWindow() {
+    return m_pWnd;
+}
+
+void CTextZone::SetRect(const RECT* prc) {
+    if (prc) m_rcText = *prc;
+}
+
+void CTextZone::GetRect(RECT* prc) {
+    if (prc) *prc = m_rcText;
+}
+
+void CTextZone::SetFont(HFONT hFont) {
+    m_hFont = hFont;
+    HDC hDC = CreateDCA("DISPLAY", nullptr, nullptr, nullptr);
+    if (hDC) {
+        if (hFont) hDC->SelectObject(hFont);
+        TEXTMETRICA tm;
+        GetTextMetricsA(hDC, &tm);
+        m_nLineHeight = tm.tmHeight;
+        m_nCharWidth = tm.tmAveCharWidth;
+        m_nOverhang = tm.tmOverhang;
+        SIZE sizeI;
+        SIZE sizeW;
+        GetTextExtentPoint32A(hDC, "i", 1, &sizeI);
+        GetTextExtentPoint32A(hDC, "W", 1, &sizeW);
+        m_bProportional = sizeI.cx != sizeW.cx ? 1 : 0;
+        DeleteDC(hDC);
+    }
+    // Box columns are only meaningful in a fixed pitch.
+    if (m_bProportional && m_nSelectionMode == 2) SetSelectionMode(1);
+}
+
+HFONT CTextZone::GetFont() {
+    return m_hFont;
+}
+
+int CTextZone::IsFontProportionnal() {
+    return m_bProportional;
+}
+
+void CTextZone::SetReservedTopLines(int nLines) {
+    m_nReservedTopLines = nLines;
+}
+
+int CTextZone::GetReservedTopLines() {
+    return m_nReservedTopLines;
+}
+
+void CTextZone::SetTabWidth(int nTabWidth) {
+    m_nTabWidth = nTabWidth;
+    if (m_pWnd) {
+        // Recorded positions no longer mean the same under another tab step.
+        FreeAllOperations();
+        RebuildAllParagraphs();
+        RedrawTextZone();
+    }
+}
+
+int CTextZone::GetTabWidth() {
+    return m_nTabWidth;
+}
+
+void CTextZone::SetTabConvert(int bTabConvert) {
+    m_bTabConvert = bTabConvert;
+    if (!bTabConvert) return;
+    for (int n = 0;; ++n) {
+        CStringEx* pLine = GetLine(n);
+        if (!pLine) break;
+        CStringEx expanded;
+        GetSpaceEquivalentLine(&expanded, pLine);
+        // Assigning a fresh line drops the bookmarks and block flags too.
+        *pLine = expanded;
+    }
+    if (m_pWnd) {
+        FreeAllOperations();
+        SetSelectionMode(1);
+        RebuildAllParagraphs();
+        RedrawTextZone();
+    }
+}
+
+int CTextZone::GetTabConvert() {
+    return m_bTabConvert;
+}
+
+void CTextZone::SetColors(COLORREF crText, COLORREF crBack, COLORREF crSelText,
+                          COLORREF crSelBack) {
+    m_crText = OrSystemColor(crText, COLOR_WINDOWTEXT);
+    m_crBack = OrSystemColor(crBack, COLOR_WINDOW);
+    m_crSelText = OrSystemColor(crSelText, COLOR_HIGHLIGHTTEXT);
+    m_crSelBack = OrSystemColor(crSelBack, COLOR_HIGHLIGHT);
+}
+
+void CTextZone::GetColors(COLORREF* pcrText, COLORREF* pcrBack, COLORREF* pcrSelText,
+                          COLORREF* pcrSelBack) {
+    if (pcrText) *pcrText = m_crText;
+    if (pcrBack) *pcrBack = m_crBack;
+    if (pcrSelText) *pcrSelText = m_crSelText;
+    if (pcrSelBack) *pcrSelBack = m_crSelBack;
+}
+
+void CTextZone::SetScrollbars(CScrollBar* pVScrollBar, CScrollBar* pHScrollBar) {
+    m_pVScrollBar = pVScrollBar;
+    m_pHScrollBar = pHScrollBar;
+}
+
+void CTextZone::SetStyle(DWORD dwStyle) {
+    // A wrapped line has no room beyond its end; an unwrapped free caret
+    // selects to the edge of the zone.
+    if (dwStyle & ZS_PARAGRAPH)
+        dwStyle &= ~ZS_FREECARET;
+    else if (dwStyle & ZS_FREECARET)
+        dwStyle |= ZS_SELTOEDGE;
+    m_dwStyle = dwStyle;
+}
+
+DWORD CTextZone::GetStyle() {
+    return m_dwStyle;
+}
+
+void CTextZone::SetReadOnly(int bReadOnly) {
+    m_bReadOnly = bReadOnly;
+}
+
+int CTextZone::GetReadOnly() {
+    return m_bReadOnly;
+}
+
+void CTextZone::SetModify(int bModify) {
+    m_bModify = bModify;
+}
+
+int CTextZone::GetModify() {
+    return m_bModify;
+}
+
+void CTextZone::SetMaxLength(LONG lMaxLength) {
+    m_lMaxLength = lMaxLength;
+    RebuildCurrentLength();
+}
+
+LONG CTextZone::GetMaxLength() {
+    return m_lMaxLength;
+}
+
+void CTextZone::SetNoBlockFlag(int bNoBlock) {
+    m_bNoBlock = bNoBlock;
+}
+
+int CTextZone::GetNoBlockFlag() {
+    return m_bNoBlock;
+}
+
+void CTextZone::SetMaxWidth(int nMaxWidth) {
+    if (nMaxWidth < 0) nMaxWidth = 0;
+    bool bChanged = nMaxWidth != m_nMaxWidth;
+    m_nMaxWidth = nMaxWidth;
+    if (bChanged && nMaxWidth != 0 && m_pWnd) RebuildAllParagraphs();
+}
+
+int CTextZone::GetMaxWidth() {
+    return m_nMaxWidth;
+}
+
+void CTextZone::SetRedraw(int bRedraw) {
+    m_bRedraw = bRedraw;
+}
+
+int CTextZone::GetRedraw() {
+    return m_bRedraw;
+}
+
+void CTextZone::SetDragDropFlag(int bDragDrop) {
+    m_bDragDrop = bDragDrop;
+}
+
+void CTextZone::SetMarginMode(int bMarginMode) {
+    if (bMarginMode == m_bMarginMode) return;
+    m_bMarginMode = bMarginMode;
+    RedrawLines(0, TZ_TO_END, 1);
+}
+
+int CTextZone::IsMarginMode() {
+    return m_bMarginMode;
+}
+
+void CTextZone::SetMarginModeImageList(CImageList* pImages) {
+    m_pMarginImages = pImages;
+    RedrawLines(0, TZ_TO_END, 1);
+}
+
+CImageList* CTextZone::GetMarginModeImageList() {
+    return m_pMarginImages;
+}
+
+void CTextZone::SetMarginColor(COLORREF crMargin) {
+    if (crMargin == m_crMargin) return;
+    m_crMargin = crMargin;
+    RedrawLines(0, TZ_TO_END, 1);
+}
+
+COLORREF CTextZone::GetMarginColor() {
+    return m_crMargin;
+}
+
+void CTextZone::SetMarginWidth(UINT nWidth) {
+    if (nWidth == m_nMarginWidth) return;
+    m_nMarginWidth = nWidth;
+    RedrawLines(0, TZ_TO_END, 1);
+}
+
+int CTextZone::GetMarginWidth() {
+    return IsMarginMode() ? static_cast<int>(m_nMarginWidth) : 0;
+}
+
+void CTextZone::SetBlockMode(int bBlockMode) {
+    if (bBlockMode == m_bBlockMode) return;
+    m_bBlockMode = bBlockMode;
+    RedrawLines(0, TZ_TO_END, 1);
+}
+
+int CTextZone::IsBlockMode() const {
+    return m_bBlockMode;
+}
+
+int CTextZone::GetBookmarkImageIndex(int nIndex) {
+    return nIndex <= 15 ? nIndex : 0;
+}
+
+COLORREF CTextZone::GetBookmarkColor(int nIndex) {
+    return nIndex >= 0 && nIndex < 16 ? m_crBookmark[nIndex] : 0;
+}
+
+void CTextZone::SetBookmarkColor(COLORREF cr, int nIndex) {
+    if (nIndex >= 0 && nIndex < 16) m_crBookmark[nIndex] = cr;
+}

@@ -1,0 +1,372 @@
+// The line store: a directory of blocks of line pointers. Inserting or
+// removing a line shifts at most one block (or the directory), and the
+// block capacity follows the square root of the line count, so texts of
+// millions of lines stay cheap to edit in the middle.
+#include <algorithm>
+#include <cstring>
+#include <unordered_set>
+#include <vector>
+
+#include "platform/Caret.h"
+#include "platform/Wnd.h"
+#include "textzone/TextZone.h"
+
+namespace {
+
+using BlockList = std::list<std::unique_ptr<CEditBlk>>;
+
+void MoveEntries(CStringEx** pTo, CStringEx** pFrom, int nCount) {
+    if (nCount > 0) std::memmove(pTo, pFrom, sizeof(CStringEx*) * static_cast<size_t>(nCount));
+}
+
+// Blocks left behind may still name a destroyed block as their parent; a
+// parent walk must stop there instead of reading freed memory.
+void ForgetParents(BlockList& blocks, const std::unordered_set<const CEditBlk*>& gone) {
+    for (auto& blk : blocks)
+        if (blk->m_pParent && gone.count(blk->m_pParent)) blk->m_pParent = nullptr;
+}
+
+}  // namespace
+
+CTextZone::CTextZone() {
+    m_ppBlocks = std::make_unique<std::unique_ptr<CStringEx*[]>[]>(m_nGranularity);
+    m_pBlockSizes = std::make_unique<int[]>(m_nGranularity);
+    m_crBookmark[0] = 0x00FF00;
+    for (int i = 1; i < 16; ++i)
+        m_crBookmark[i] = static_cast<COLORREF>((i * 16) | ((255 - i * 16) << 16));
+    SetColors(static_cast<COLORREF>(-1), static_cast<COLORREF>(-1), static_cast<COLORREF>(-1),
+              static_cast<COLORREF>(-1));
+}
+
+CTextZone::~CTextZone() {
+    if (m_bCaretShown) {
+        ::HideCaret(m_pWnd ? m_pWnd->GetSafeHwnd() : nullptr);
+        ::DestroyCaret();
+        m_bCaretShown = 0;
+    }
+    CTextZone::FreeAllLines();
+    m_pCurrentOperation.reset();
+    m_undoList.clear();
+    m_redoList.clear();
+}
+
+CStringEx* CTextZone::CreateLine() {
+    return new CStringEx;
+}
+
+int CTextZone::GetLineIndexes(int nLine, int* pBlock, int* pIndex) {
+    const int* sizes = m_pBlockSizes.get();
+    int b = 0;
+    int i = nLine;
+    auto walkForward = [&](int nBlock, int nBase) {
+        while (nBlock < m_nBlockCount && nBase + sizes[nBlock] <= nLine)
+            nBase += sizes[nBlock++];
+        b = nBlock;
+        i = nLine - nBase;
+    };
+
+    if (nLine < 0) {
+        // No such place; the outputs still say where the walk would stand.
+    } else if (nLine == m_nCacheLine) {
+        b = m_nCacheBlock;
+        i = m_nCacheIndex;
+    } else if (m_nCacheLine < 0) {
+        walkForward(0, 0);
+    } else {
+        int base = m_nCacheLine - m_nCacheIndex;
+        if (nLine > m_nCacheLine) {
+            walkForward(m_nCacheBlock, base);
+        } else if (nLine >= base) {
+            b = m_nCacheBlock;
+            i = m_nCacheIndex - m_nCacheLine + nLine;
+        } else if (nLine <= m_nCacheLine / 2) {
+            // Nearer to the start than to the cache: walk from block 0.
+            walkForward(0, 0);
+        } else {
+            b = m_nCacheBlock;
+            while (b > 0 && nLine < base)
+                base -= sizes[--b];
+            i = nLine - base;
+        }
+    }
+
+    if (pBlock) *pBlock = b;
+    if (pIndex) *pIndex = i;
+    if (nLine < 0 || b >= m_nBlockCount || i < 0 || i >= sizes[b]) return 0;
+    m_nCacheLine = nLine;
+    m_nCacheBlock = b;
+    m_nCacheIndex = i;
+    return 1;
+}
+
+CStringEx* CTextZone::InsertLine(int nLine) {
+    CStringEx* pNew = CreateLine();
+    if (!pNew) return nullptr;
+    if (nLine < 0) {
+        delete pNew;
+        return nullptr;
+    }
+
+    for (;;) {
+        const int g = m_nGranularity;
+        if (nLine > 0 && !GetLine(nLine - 1)) {
+            delete pNew;
+            return nullptr;
+        }
+
+        int b = 0;
+        int i = 0;
+        if (!GetLineIndexes(nLine, &b, &i)) {
+            if (nLine > 0) {
+                GetLineIndexes(nLine - 1, &b, &i);
+                if (++i >= g) {
+                    ++b;
+                    i = 0;
+                }
+            } else {
+                b = 0;
+                i = 0;
+            }
+        }
+
+        if (b >= m_nBlockCount) {
+            if (m_nBlockCount < g) {
+                m_ppBlocks[b] = std::make_unique<CStringEx*[]>(g);
+                m_ppBlocks[b][0] = pNew;
+                m_pBlockSizes[b] = 1;
+                ++m_nBlockCount;
+                break;
+            }
+            ExtendGranularity();
+            continue;
+        }
+
+        CStringEx** block = m_ppBlocks[b].get();
+        int& size = m_pBlockSizes[b];
+        // Moves the last entry of the full block b to the front of b + 1 and
+        // makes room at i.
+        auto spillForward = [&] {
+            CStringEx** next = m_ppBlocks[b + 1].get();
+            MoveEntries(next + 1, next, m_pBlockSizes[b + 1]);
+            next[0] = block[g - 1];
+            ++m_pBlockSizes[b + 1];
+            MoveEntries(block + i + 1, block + i, g - 1 - i);
+            block[i] = pNew;
+        };
+
+        if (size < g) {
+            MoveEntries(block + i + 1, block + i, size - i);
+            block[i] = pNew;
+            ++size;
+        } else if (b > 0 && m_pBlockSizes[b - 1] < g) {
+            CStringEx** prev = m_ppBlocks[b - 1].get();
+            if (i - 1 < 0) {
+                prev[m_pBlockSizes[b - 1]++] = pNew;
+            } else {
+                prev[m_pBlockSizes[b - 1]++] = block[0];
+                MoveEntries(block, block + 1, i - 1);
+                block[i - 1] = pNew;
+            }
+            m_nCacheLine = -1;
+        } else if (b + 1 >= m_nBlockCount && m_nBlockCount < g) {
+            m_ppBlocks[b + 1] = std::make_unique<CStringEx*[]>(g);
+            m_pBlockSizes[b + 1] = 0;
+            ++m_nBlockCount;
+            spillForward();
+        } else if (b + 1 < m_nBlockCount && m_pBlockSizes[b + 1] < g) {
+            spillForward();
+        } else if (m_nBlockCount < g && b + 1 < g) {
+            for (int k = m_nBlockCount; k > b + 1; --k) {
+                m_ppBlocks[k] = std::move(m_ppBlocks[k - 1]);
+                m_pBlockSizes[k] = m_pBlockSizes[k - 1];
+            }
+            m_ppBlocks[b + 1] = std::make_unique<CStringEx*[]>(g);
+            m_pBlockSizes[b + 1] = 0;
+            ++m_nBlockCount;
+            spillForward();
+        } else {
+            ExtendGranularity();
+            continue;
+        }
+        break;
+    }
+
+    ++m_nLineCount;
+    for (auto& blk : m_editBlocks) {
+        if (blk->m_nFirstLine < nLine && nLine < blk->m_nFirstLine + blk->m_nLineCount)
+            ++blk->m_nLineCount;
+        if (blk->m_nFirstLine >= nLine) ++blk->m_nFirstLine;
+    }
+    return pNew;
+}
+
+int CTextZone::ExtendGranularity() {
+    const int g = m_nGranularity + 10;
+    auto blocks = std::make_unique<std::unique_ptr<CStringEx*[]>[]>(g);
+    auto sizes = std::make_unique<int[]>(g);
+    int nBlock = 0;
+    int nFill = 0;
+    blocks[0] = std::make_unique<CStringEx*[]>(g);
+    CStringEx** target = blocks[0].get();
+    for (int b = 0; b < m_nBlockCount; ++b) {
+        CStringEx** source = m_ppBlocks[b].get();
+        for (int nLeft = m_pBlockSizes[b]; nLeft > 0;) {
+            int n = std::min(nLeft, g - nFill);
+            MoveEntries(target + nFill, source, n);
+            source += n;
+            nLeft -= n;
+            nFill += n;
+            if (nFill == g) {
+                sizes[nBlock++] = g;
+                blocks[nBlock] = std::make_unique<CStringEx*[]>(g);
+                target = blocks[nBlock].get();
+                nFill = 0;
+            }
+        }
+    }
+    sizes[nBlock] = nFill;
+
+    m_ppBlocks = std::move(blocks);
+    m_pBlockSizes = std::move(sizes);
+    m_nGranularity = g;
+    m_nBlockCount = nBlock + 1;
+    m_nCacheLine = -1;
+    return 1;
+}
+
+void CTextZone::RemoveLines(int nFirst, int nCount) {
+    int b0 = 0;
+    int i0 = 0;
+    if (!GetLineIndexes(nFirst, &b0, &i0)) return;
+    if (nCount < 1) return;
+
+    const long long nEnd = static_cast<long long>(nFirst) + nCount;
+    std::vector<std::unique_ptr<CEditBlk>> gone;
+    for (auto it = m_editBlocks.begin(); it != m_editBlocks.end();) {
+        CEditBlk& blk = **it;
+        if (blk.m_nFirstLine >= nEnd) {
+            blk.m_nFirstLine -= nCount;
+        } else if (blk.m_nFirstLine >= nFirst) {
+            gone.push_back(std::move(*it));
+            it = m_editBlocks.erase(it);
+            continue;
+        } else if (blk.m_nFirstLine + blk.m_nLineCount > nFirst) {
+            blk.m_nLineCount = nFirst - blk.m_nFirstLine;
+        }
+        ++it;
+    }
+    if (!gone.empty()) {
+        std::unordered_set<const CEditBlk*> set;
+        for (auto& blk : gone)
+            set.insert(blk.get());
+        ForgetParents(m_editBlocks, set);
+        ForgetParents(m_inputBlocks, set);
+        ForgetParents(m_altBlocks, set);
+    }
+
+    if (!m_ppBlocks[b0]) return;
+
+    // Destroy the lines; a run that ends with the last line of a block ends
+    // at the start of the next one.
+    int b1 = b0;
+    int i1 = i0;
+    for (int n = nCount; n > 0 && b1 < m_nBlockCount;) {
+        if (i1 >= m_pBlockSizes[b1]) {
+            ++b1;
+            i1 = 0;
+            continue;
+        }
+        delete m_ppBlocks[b1][i1];
+        m_ppBlocks[b1][i1] = nullptr;
+        ++i1;
+        --n;
+        --m_nLineCount;
+        if (i1 >= m_pBlockSizes[b1]) {
+            ++b1;
+            i1 = 0;
+        }
+    }
+
+    auto removeBlocks = [&](int nFrom, int nBlocks) {
+        for (int k = nFrom; k < nFrom + nBlocks; ++k)
+            m_ppBlocks[k].reset();
+        for (int k = nFrom + nBlocks; k < m_nBlockCount; ++k) {
+            m_ppBlocks[k - nBlocks] = std::move(m_ppBlocks[k]);
+            m_pBlockSizes[k - nBlocks] = m_pBlockSizes[k];
+        }
+        for (int k = m_nBlockCount - nBlocks; k < m_nBlockCount; ++k)
+            m_pBlockSizes[k] = 0;
+        m_nBlockCount -= nBlocks;
+    };
+
+    if (b1 > b0 + 1) {
+        removeBlocks(b0 + 1, b1 - b0 - 1);
+        b1 = b0 + 1;
+    }
+
+    const int g = m_nGranularity;
+    if (b1 == b0) {
+        CStringEx** block = m_ppBlocks[b0].get();
+        MoveEntries(block + i0, block + i1, m_pBlockSizes[b0] - i1);
+        m_pBlockSizes[b0] -= i1 - i0;
+    } else {
+        m_pBlockSizes[b0] = i0;
+        if (i1 > 0) {
+            CStringEx** block = m_ppBlocks[b1].get();
+            MoveEntries(block, block + i1, m_pBlockSizes[b1] - i1);
+            m_pBlockSizes[b1] -= i1;
+        }
+        if (b1 < m_nBlockCount && m_pBlockSizes[b0] + m_pBlockSizes[b1] < g) {
+            MoveEntries(m_ppBlocks[b0].get() + m_pBlockSizes[b0], m_ppBlocks[b1].get(),
+                        m_pBlockSizes[b1]);
+            m_pBlockSizes[b0] += m_pBlockSizes[b1];
+            removeBlocks(b1, 1);
+            m_nCacheLine = -1;
+        }
+    }
+    if (m_pBlockSizes[b0] == 0) {
+        removeBlocks(b0, 1);
+        m_nCacheLine = -1;
+    }
+    // The cache may now name nFirst behind b0's end (a null for that one lookup);
+    // callers tolerate a missing line and the next other lookup heals it.
+}
+
+void CTextZone::FreeAllLines() {
+    for (int b = 0; b < m_nBlockCount; ++b) {
+        for (int k = 0; k < m_pBlockSizes[b]; ++k)
+            delete m_ppBlocks[b][k];
+        m_ppBlocks[b].reset();
+        m_pBlockSizes[b] = 0;
+    }
+    m_nBlockCount = 0;
+    m_nLineCount = 0;
+    m_nCurrentLength = 0;
+    m_nCacheLine = -1;
+    m_nCacheBlock = 0;
+    m_nCacheIndex = 0;
+
+    if (!m_editBlocks.empty()) {
+        std::unordered_set<const CEditBlk*> set;
+        for (auto& blk : m_editBlocks)
+            set.insert(blk.get());
+        ForgetParents(m_inputBlocks, set);
+        ForgetParents(m_altBlocks, set);
+        m_editBlocks.clear();
+    }
+}
+
+CStringEx* CTextZone::GetLine(int nLine) {
+    if (nLine < 0) nLine = 0;
+    int b = 0;
+    int i = 0;
+    return GetLineIndexes(nLine, &b, &i) ? m_ppBlocks[b][i] : nullptr;
+}
+
+int CTextZone::GetLineCount() {
+    return m_nLineCount;
+}
+
+int CTextZone::GetLastLineIndex() {
+    return m_nLineCount > 0 ? m_nLineCount - 1 : 0;
+}
