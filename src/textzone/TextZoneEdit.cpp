@@ -1,0 +1,347 @@
+// The two roads of every bulk change of the text: InsertText replaces the
+// selection by a text, DeleteSelection removes it. The callers set the
+// modified flag and open the undo frame; these only register their units.
+#include <algorithm>
+#include <cstring>
+
+#include "host/MessageBeep.h"
+#include "platform/Wnd.h"
+#include "textzone/TextZone.h"
+
+namespace {
+
+constexpr char kLineEnd = 13;
+
+bool IsBlank(char c) {
+    return c == ' ' || c == '\t';
+}
+
+// CR, LF and CR LF are one line end each; LF CR is two.
+int CountLineEnds(const char* p) {
+    int count = 0;
+    while (*p) {
+        if (*p == '\r') {
+            ++count;
+            if (p[1] == '\n') ++p;
+        } else if (*p == '\n') {
+            ++count;
+        }
+        ++p;
+    }
+    return count;
+}
+
+}  // namespace
+
+int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHorizontal) {
+    const bool box = m_nSelectionMode == 2;
+    const bool stream = m_nSelectionMode == 1;
+    const bool paragraphs = (m_dwStyle & ZS_PARAGRAPH) != 0;
+
+    int hadSelection = TestSelection();
+    int oldFirstChar = m_nSelStartChar;
+    DeleteSelection(0);
+
+    // Where the selection starts, for bSelect. With paragraphs the insertion
+    // may rewrap the lines, so only a text offset stays true.
+    int savedLine = m_nSelStartLine;
+    int savedChar = m_nSelStartChar;
+    LONG savedOffset = 0;
+    int column = 0;
+    if (box)
+        column = hadSelection ? oldFirstChar : ComputeBlockUnit(m_nSelStartLine, m_nSelStartChar);
+    if (bSelect) {
+        if (stream && paragraphs)
+            GetSelection(&savedOffset, nullptr, nullptr, nullptr, 1);
+        else if (box)
+            savedChar = column;
+    }
+
+    if (!pszText || !*pszText) {
+        RebuildCurrentLength();
+        if (m_pWnd && m_pWnd->GetSafeHwnd()) m_pWnd->UpdateWindow();
+        return 1;
+    }
+
+    if (box) {
+        // The undo unit covers the lines the text will reach, at the column.
+        int endLine = m_nSelEndLine;
+        int startChar = m_nSelStartChar;
+        size_t length = std::strlen(pszText);
+        char lastByte = pszText[length - 1];
+        m_nSelEndLine = m_nSelStartLine + CountLineEnds(pszText) -
+                        (lastByte == '\r' || lastByte == '\n' ? 1 : 0);
+        m_nSelStartChar = m_nSelEndChar = column;
+        RegisterUnit(7);
+        m_nSelStartChar = m_nSelEndChar = startChar;
+        m_nSelEndLine = endLine;
+    } else if (stream && paragraphs) {
+        GetSelection(&m_lSelRootOffset, nullptr, nullptr, nullptr, 1);
+    } else {
+        m_nSelRootLine = m_nSelStartLine;
+        m_nSelRootChar = m_nSelStartChar;
+    }
+    HideCaret();
+
+    int result = 1;
+    int first = m_nSelStartLine;
+    int last = m_nSelStartLine;
+
+    if (stream) {
+        int L = m_nSelStartLine;
+        first = L;
+        last = TZ_TO_END;
+        const char* p = pszText;
+        bool created = false;
+        CStringEx* pLine = nullptr;
+        CStringEx* pTail = nullptr;
+        if (GetLastLineIndex() >= TZ_MAX_LINES) {
+            result = 0;
+        } else {
+            pLine = GetLine(L);
+            if (!pLine) {
+                // On the place behind an unended last line: end that line first,
+                // so that the text starts on a line of its own.
+                if (!paragraphs && L > 0) {
+                    CStringEx* pPrev = GetLine(L - 1);
+                    if (pPrev && !pPrev->IsEnded()) {
+                        m_nSelRootLine = L - 1;
+                        m_nSelRootChar = pPrev->GetLength();
+                        pPrev->EnsureEnded();
+                    }
+                }
+                pLine = InsertLine(L);
+                created = true;
+            }
+            if (pLine) pTail = InsertLine(L + 1);
+            if (!pTail) result = 0;
+        }
+
+        if (pTail) {
+            // The tail keeps what stood right of the caret until the text is in.
+            int tailLength = pTail->GetLength();
+            int caretChar = m_nSelStartChar;
+            pLine->EnsureMinimumLength(caretChar);
+            *pTail += pLine->subString(caretChar);
+            pLine->keepLeft(caretChar);
+
+            bool firstPass = true;
+            while (*p && GetLastLineIndex() < TZ_MAX_LINES) {
+                CStringEx* pTarget;
+                int start;
+                if (firstPass) {
+                    pTarget = GetLine(L);
+                    start = pTarget->GetLength();
+                } else {
+                    pTarget = InsertLine(L);
+                    if (!pTarget) {
+                        result = 0;
+                        break;
+                    }
+                    start = 0;
+                }
+
+                int srcLen = static_cast<int>(std::strcspn(p, "\r\n"));
+                int n = srcLen;
+                if (srcLen >= TZ_MAX_LINE_LENGTH - start)
+                    n = std::max(0, TZ_MAX_LINE_LENGTH - 1 - start);
+                *pTarget += VESK::String(p, n);
+                // A source line too long for a line is ended here and goes on below.
+                if (p[n] != 0) *pTarget += kLineEnd;
+                if (m_bTabConvert) {
+                    // Assigning a fresh line drops the bookmarks and block flags too.
+                    CStringEx spaced;
+                    GetSpaceEquivalentLine(&spaced, pTarget);
+                    *pTarget = spaced;
+                }
+                p += (m_dwStyle & ZS_CUTLONGLINES) ? srcLen : n;
+                if (*p == '\r') ++p;
+                if (*p == '\n') ++p;
+
+                if (!*p) {
+                    if (pTarget->IsEnded()) {
+                        // Nothing was right of the caret and nothing follows: the
+                        // caret stays on the place behind the text, with no line.
+                        if (pTail->GetLength() == tailLength && !GetLine(L + 2))
+                            RemoveLines(L + 1, 1);
+                        m_nSelStartLine = m_nSelEndLine = L + 1;
+                        m_nSelStartChar = m_nSelEndChar = 0;
+                    } else {
+                        m_nSelStartLine = m_nSelEndLine = L;
+                        m_nSelStartChar = m_nSelEndChar = pTarget->GetLength();
+                        *pTarget += *pTail;
+                        RemoveLines(L + 1, 1);
+                    }
+                    last = TZ_TO_END;
+                }
+
+                int runFrom = L;
+                int prevLength = -1;
+                if (L > 0 && paragraphs) {
+                    CStringEx* pPrev = GetLine(L - 1);
+                    if (pPrev && !pPrev->IsEnded()) {
+                        if (firstPass && created) {
+                            pPrev->EnsureEnded();
+                        } else {
+                            // Words of this line may flow back into the one above.
+                            prevLength = pPrev->GetLength();
+                            runFrom = L - 1;
+                        }
+                    }
+                }
+                int done = ComputeParagraph(runFrom, nullptr);
+                if (runFrom < L) {
+                    CStringEx* pPrev = GetLine(L - 1);
+                    if (pPrev && pPrev->GetLength() != prevLength)
+                        first = std::min(first, done - 1);
+                }
+                L = done + 1;
+                firstPass = false;
+            }
+            if (*p) result = 0;
+        }
+    } else if (box) {
+        // Box insertion is added with the column geometry; until then a box
+        // takes the text as nothing, and only the bookkeeping above is done.
+    }
+    // Line mode inserts nothing.
+
+    RebuildCurrentLength();
+    UpdateVScrollBar();
+    UpdateHScrollBar(first, last);
+    if (bSelect) {
+        if (stream && paragraphs) {
+            LONG endOffset = 0;
+            GetSelection(nullptr, &endOffset, nullptr, nullptr, 1);
+            SetSelection(savedOffset, endOffset, 0, 0, 1, 0);
+        } else {
+            m_nSelStartLine = savedLine;
+            m_nSelStartChar = savedChar;
+            if (box) m_nSelEndChar = ComputeBlockUnit(m_nSelEndLine, m_nSelEndChar);
+        }
+    }
+    if (!box) {
+        RegisterUnit(5);
+    } else if (m_pCurrentOperation) {
+        // The unit registered before the change learns where the text ended.
+        CUndoOperation& op = *m_pCurrentOperation;
+        CUndoUnit* pUnit = nullptr;
+        if (op.IsGroup())
+            pUnit = op.m_group.empty() ? nullptr : op.m_group.back().get();
+        else
+            pUnit = op.m_pSecond ? op.m_pSecond.get() : op.m_pFirst.get();
+        if (pUnit) {
+            pUnit->m_nLastLine = m_nSelEndLine;
+            pUnit->m_nLastChar = ComputeBlockUnit(m_nSelEndLine, m_nSelEndChar);
+        }
+    }
+    RedrawLines(first, last, 1);
+    DrawCaret(bScroll, bHorizontal);
+    return result;
+}
+
+void CTextZone::DeleteSelection(int bUpdate) {
+    m_nGoalX = -1;
+    if (!TestSelection()) return;
+    const bool box = m_nSelectionMode == 2;
+    if (box && m_nSelStartChar == m_nSelEndChar) return;
+    RegisterUnit(box ? 6 : 1);
+    HideCaret();
+
+    int first = 0;
+    int last = 0;
+    if (m_nSelectionMode == 1) {
+        const bool paragraphs = (m_dwStyle & ZS_PARAGRAPH) != 0;
+        LONG selLength = GetSelectedTextLength(0);
+        int startLine = m_nSelStartLine;
+        int startChar = m_nSelStartChar;
+        int endLine = m_nSelEndLine;
+        int endChar = m_nSelEndChar;
+        first = last = startLine;
+
+        if (!(m_dwStyle & ZS_FREECARET)) {
+            // Behind the terminator is the next line's start.
+            CStringEx* pEnd = GetLine(endLine);
+            if (endChar == (pEnd ? pEnd->GetLength() : 0)) ++endLine, endChar = 0;
+        }
+        if (endLine - startLine > 1) {
+            RemoveLines(startLine + 1, endLine - startLine - 1);
+            endLine = startLine + 1;
+            last = TZ_TO_END;
+        }
+
+        // With paragraphs the run starts on the line above if words can flow back into it.
+        int runFrom = startLine;
+        int prevLength = -1;
+        if (paragraphs && startLine > 0) {
+            CStringEx* pPrev = GetLine(startLine - 1);
+            if (pPrev && !pPrev->IsEnded()) {
+                prevLength = pPrev->GetLength();
+                runFrom = startLine - 1;
+            }
+        }
+        auto rewrap = [&](int* pbChanged) {
+            int done = ComputeParagraph(runFrom, pbChanged);
+            if (runFrom < startLine) {
+                CStringEx* pPrev = GetLine(startLine - 1);
+                if (pPrev && pPrev->GetLength() != prevLength)
+                    first = std::min(first, startLine - 1);
+            }
+            return done;
+        };
+
+        if (endLine == startLine) {
+            CStringEx* pLine = GetLine(startLine);
+            if (pLine) {
+                if (pLine->GetLength() < endChar) pLine->EnsureMinimumLength(endChar);
+                int ended = pLine->IsEnded();
+                pLine->RemoveChar(startChar, endChar - startChar, 0);
+                if (ended) pLine->EnsureEnded();
+            }
+            int changed = 0;
+            int done = rewrap(&changed);
+            last = changed ? TZ_TO_END : std::max(done, last);
+        } else {
+            CStringEx* pFirst = GetLine(startLine);
+            CStringEx* pSecond = GetLine(startLine + 1);
+            if (pFirst) {
+                pFirst->EnsureMinimumLength(startChar);
+                pFirst->keepLeft(startChar);
+                if (pSecond) {
+                    int cut = std::min(endChar, pSecond->GetLength() - pSecond->IsEnded());
+                    *pFirst += pSecond->subString(std::max(cut, 0));
+                }
+                // The bookmarks go with the text: a join behind nothing but
+                // blanks makes the joined line the second line's.
+                const char* p = pFirst->c_str();
+                bool blankBefore = true;
+                for (int i = 0; i < startChar && blankBefore; ++i)
+                    blankBefore = IsBlank(p[i]);
+                if (blankBefore) {
+                    char* pszInfo = pSecond ? pSecond->GetSpecificInfo() : nullptr;
+                    pFirst->SetSpecificInfo(pszInfo);
+                    delete[] pszInfo;
+                }
+            }
+            RemoveLines(startLine + 1, 1);
+            rewrap(nullptr);
+            last = TZ_TO_END;
+        }
+
+        // The paragraph run keeps the start in step with any rewrapping.
+        SetSelection(m_nSelStartLine, m_nSelStartLine, m_nSelStartChar, m_nSelStartChar, 0, 0);
+        if (m_lMaxLength > 0) m_nCurrentLength -= selLength;
+    } else if (box) {
+        // Box deletion is added with the column geometry; the box stays as it is.
+        first = m_nSelStartLine;
+        last = m_nSelEndLine;
+    }
+    // Line mode removes nothing.
+
+    RedrawLines(first, last, bUpdate);
+    DrawCaret(1, 1);
+}
+
+void CTextZone::OnTextTooLong() {
+    VESKMessageBeep(0);
+}
