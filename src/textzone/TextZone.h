@@ -228,6 +228,13 @@ protected:
     bool DoOleMoveItem(POINT* pt);
     bool DoOlePasteItem(const char* pszText, POINT* pt);
 
+    // Column editing, the box branches of InsertText and DeleteSelection.
+    int BoxInsertText(const char* pszText, int nColumn, int bHadSelection, int* pnLast);
+    void BoxDeleteSelection();
+    // Window x of the place behind nCount bytes of a line, spaces assumed
+    // beyond its text.
+    int BoxX(CDC* pDC, const CStringEx& line, int nCount);
+
     // The line limit in force: 65500 bytes, 65536 with ZS_PARAGRAPH.
     int GetLineLimit() const {
         return (m_dwStyle & ZS_PARAGRAPH) ? TZ_MAX_PARAGRAPH_LINE : TZ_MAX_LINE_LENGTH;

@@ -162,7 +162,10 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
                     if (pTarget->IsEnded()) {
                         // Nothing was right of the caret and nothing follows: the
                         // caret stays on the place behind the text, with no line.
-                        if (pTail->GetLength() == tailLength && !GetLine(L + 2))
+                        // In a wrapped paragraph the caret can stand at the end of
+                        // a line that others follow; the empty tail holds nothing
+                        // of the text there either, and would show as a stray row.
+                        if (pTail->GetLength() == tailLength && (!GetLine(L + 2) || paragraphs))
                             RemoveLines(L + 1, 1);
                         m_nSelStartLine = m_nSelEndLine = L + 1;
                         m_nSelStartChar = m_nSelEndChar = 0;
@@ -201,8 +204,8 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
             if (*p) result = 0;
         }
     } else if (box) {
-        // Box insertion is added with the column geometry; until then a box
-        // takes the text as nothing, and only the bookkeeping above is done.
+        first = m_nSelStartLine;
+        result = BoxInsertText(pszText, column, hadSelection, &last);
     }
     // Line mode inserts nothing.
 
@@ -332,9 +335,9 @@ void CTextZone::DeleteSelection(int bUpdate) {
         SetSelection(m_nSelStartLine, m_nSelStartLine, m_nSelStartChar, m_nSelStartChar, 0, 0);
         if (m_lMaxLength > 0) m_nCurrentLength -= selLength;
     } else if (box) {
-        // Box deletion is added with the column geometry; the box stays as it is.
         first = m_nSelStartLine;
         last = m_nSelEndLine;
+        BoxDeleteSelection();
     }
     // Line mode removes nothing.
 

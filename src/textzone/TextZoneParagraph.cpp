@@ -1,170 +1,208 @@
-// Measuring: widths of text under the zone's tab step, tab expansion into
-// columns, and the paragraph wrap.
+// The paragraph wrap. With ZS_PARAGRAPH a line holds what fits into
+// m_nMaxWidth pixels and only the last line of a paragraph is ended; the
+// wrap lives in the store itself, so after an edit ComputeParagraph moves
+// words between neighbouring lines until the paragraph is in order again.
 #include <algorithm>
-#include <cstdlib>
 
 #include "platform/DC.h"
-#include "platform/Messages.h"
-#include "platform/Wnd.h"
 #include "textzone/TextZone.h"
 
 namespace {
 
-// The platform measures at most this many bytes per call.
-constexpr int kMeasureChunk = 1024;
-
-// A copy of pLine whose first nCount bytes can be measured: the terminator
-// goes and spaces stand in for whatever lies beyond the text.
-CStringEx PaddedCopy(const CStringEx& line, int nCount) {
-    CStringEx copy(line);
-    if (copy.IsEnded()) copy.discardRight(1);
-    copy.EnsureMinimumLength(nCount);
-    return copy;
+bool IsBlank(char c) {
+    return c == ' ' || c == '\t';
 }
+
+bool IsWrapDelimiter(char c) {
+    return c == '\t' || c == ' ' || c == '-';
+}
+
+// Keeps one end of the selection on its text while bytes move between lines.
+struct SelEnd {
+    int& line;
+    int& ch;
+};
 
 }  // namespace
-
-CDC* CTextZone::GetStandardDC() {
-    if (!m_pWnd) return nullptr;
-    CDC* pDC = m_pWnd->GetDC();
-    if (pDC && m_hFont) pDC->SelectObject(m_hFont);
-    return pDC;
-}
-
-void CTextZone::ReleaseStandardDC(CDC* pDC) {
-    if (!pDC) return;
-    pDC->SelectStockObject(SYSTEM_FONT);
-    if (m_pWnd) m_pWnd->ReleaseDC(pDC);
-}
-
-int CTextZone::GetTextWidth(CDC* pDC, const char* pszText, int nCount) {
-    int nMargin = GetMarginWidth();
-    if (!pDC || !pszText || nCount < 1) return nMargin;
-
-    int nStep = 20;
-    if (m_nTabWidth > 0)
-        nStep = m_nTabWidth;
-    else if (m_nTabWidth < 0 && m_nCharWidth > 0)
-        nStep = m_nTabWidth * -m_nCharWidth;
-
-    // The platform only knows tab stops counted from the start of what it
-    // measures, so whole chunks are measured only from a tab stop; between
-    // stops the bytes are taken one at a time.
-    int w = 0;
-    int i = 0;
-    while (i < nCount) {
-        while (i < nCount && w % nStep != 0) {
-            char c = pszText[i++];
-            if (c == '\t') {
-                w += nStep - w % nStep;
-            } else {
-                DWORD ext = GetTabbedTextExtentA(pDC, &c, 1, 1, &nStep);
-                w += static_cast<short>(LOWORD(ext)) - m_nOverhang;
-            }
-        }
-        if (i < nCount) {
-            int n = std::min(kMeasureChunk, nCount - i);
-            DWORD ext = GetTabbedTextExtentA(pDC, pszText + i, n, 1, &nStep);
-            w += static_cast<short>(LOWORD(ext));
-            if (w > 0 && pszText[i + n - 1] != '\t') w -= m_nOverhang;
-            i += n;
-        }
-    }
-    return nMargin + w;
-}
-
-void CTextZone::GetSpaceEquivalentLine(CStringEx* pTarget, const CStringEx* pSource) {
-    if (!pTarget || !pSource) return;
-    const int nStep = std::abs(m_nTabWidth);
-    const int nLength = pSource->GetLength();
-    const char* src = pSource->c_str();
-    pTarget->EnsureMinimumLength(nLength + 50);
-
-    int p = 0;
-    auto put = [&](char c) {
-        if (p >= pTarget->GetLength()) pTarget->EnsureMinimumLength(p + 20);
-        pTarget->replaceAt(p++, c);
-    };
-    for (int k = 0; k < nLength; ++k) {
-        if (src[k] == '\t') {
-            put(' ');
-            while (nStep > 0 && p % nStep != 0)
-                put(' ');
-        } else {
-            put(src[k]);
-        }
-    }
-    if (p == 0)
-        pTarget->Empty();
-    else
-        pTarget->keepLeft(p);
-}
-
-int CTextZone::ComputeBlockUnit(int nLine, int nChar) {
-    CStringEx* pLine = GetLine(nLine);
-    if (!pLine) return nChar;
-    CDC* pDC = GetStandardDC();
-    int w = nChar <= pLine->GetLength() - pLine->IsEnded()
-                ? GetTextWidth(pDC, pLine->c_str(), nChar)
-                : GetTextWidth(pDC, PaddedCopy(*pLine, nChar).c_str(), nChar);
-    ReleaseStandardDC(pDC);
-    POINT pt;
-    pt.x = w + m_rcText.left - GetHScrollOffset();
-    CStringEx copy;
-    GetSpaceEquivalentLine(&copy, pLine);
-    return GetCharIndexFromPoint(&copy, &pt);
-}
-
-int CTextZone::ComputeCharIndex(int nLine, int nColumn) {
-    CStringEx* pLine = GetLine(nLine);
-    if (!pLine) return 0;
-    CStringEx copy;
-    GetSpaceEquivalentLine(&copy, pLine);
-    CDC* pDC = GetStandardDC();
-    int w = GetTextWidth(pDC, PaddedCopy(copy, nColumn).c_str(), nColumn);
-    ReleaseStandardDC(pDC);
-    POINT pt;
-    pt.x = w + m_rcText.left - GetHScrollOffset();
-    return GetCharIndexFromPoint(pLine, &pt);
-}
 
 int CTextZone::ComputeParagraph(int nLine, int* pbChanged) {
     if (pbChanged) *pbChanged = 0;
     if (!(m_dwStyle & ZS_PARAGRAPH) || m_nMaxWidth < 1 || nLine >= TZ_MAX_LINES) return nLine;
-    // Wrapping to the paragraph width is not done yet: lines stay as they are.
-    return nLine;
+
+    const int W = m_nMaxWidth;
+    const bool byWord = (m_dwStyle & ZS_WORDBREAK) != 0;
+    CDC* pDC = GetStandardDC();
+    auto width = [&](const CStringEx* p, int n) { return GetTextWidth(pDC, p->c_str(), n); };
+    SelEnd ends[2] = {{m_nSelStartLine, m_nSelStartChar}, {m_nSelEndLine, m_nSelEndChar}};
+    bool changed = false;
+
+    // Moves the end of line L to the front of pTarget until L fits. Word by
+    // word while that is cheap; a line far too wide is cut where measuring
+    // says, so that text pasted without line ends costs one pass. A line
+    // always keeps at least one byte, or a width below one byte would push
+    // the text down line after line.
+    auto cut = [&](CStringEx* pLine, CStringEx* pTarget) {
+        int w = width(pLine, pLine->GetVisibleLength());
+        if (w <= 2 * W) {
+            while (w > W && pLine->GetLength() - pLine->IsEnded() > 1) {
+                pLine->TransferEnd(*pTarget, byWord);
+                w = width(pLine, pLine->GetVisibleLength());
+            }
+            return;
+        }
+        const int n = pLine->GetLength() - pLine->IsEnded();
+        const char* p = pLine->c_str();
+        // The last byte count whose width does not pass W: widths grow with
+        // the count, so a binary search finds it.
+        int low = 0, high = n;
+        while (low < high) {
+            int mid = (low + high + 1) / 2;
+            if (width(pLine, mid) <= W)
+                low = mid;
+            else
+                high = mid - 1;
+        }
+        int pos = 0;
+        if (byWord) {
+            // Break behind the last delimiter that fits. Blanks may hang over
+            // the edge, a hyphen is seen and must fit itself.
+            auto fits = [&](int d) { return IsBlank(p[d]) || (p[d] == '-' && d < low); };
+            for (int d = std::min(low, n - 1); d > 0 && pos == 0; --d)
+                if (fits(d)) pos = d;
+            if (pos > 0)
+                while (pos < n && fits(pos))
+                    ++pos;
+        }
+        if (pos == 0) pos = std::max(low, 1);
+        pTarget->insertAt(0, pLine->subString(pos));
+        pLine->keepLeft(pos);
+    };
+
+    int L = nLine;
+    int last = nLine;
+    while (L < TZ_MAX_LINES) {
+        CStringEx* pLine = GetLine(L);
+        if (!pLine) break;
+        last = L;
+        // A single byte wider than the paragraph stays where it is.
+        const bool fits = width(pLine, pLine->GetVisibleLength()) <= W ||
+                          pLine->GetLength() - pLine->IsEnded() <= 1;
+
+        if (pLine->IsEnded() && fits) break;
+
+        if (pLine->IsEnded()) {
+            // A new line below takes the overflow, terminator included.
+            changed = true;
+            CStringEx* pNext = InsertLine(L + 1);
+            if (!pNext) break;
+            pLine = GetLine(L);
+            cut(pLine, pNext);
+            const int kept = pLine->GetLength();
+            for (SelEnd& e : ends) {
+                if (e.line > L)
+                    ++e.line;
+                else if (e.line == L && e.ch >= kept)
+                    ++e.line, e.ch -= kept;
+            }
+            ++L;
+            continue;
+        }
+
+        if (!fits) {
+            // The overflow goes in front of the next line of the paragraph.
+            CStringEx* pNext = GetLine(L + 1);
+            if (!pNext) {
+                pNext = InsertLine(L + 1);
+                if (!pNext) break;
+                changed = true;
+                pLine = GetLine(L);
+            }
+            const int before = pNext->GetLength();
+            cut(pLine, pNext);
+            const int moved = pNext->GetLength() - before;
+            const int kept = pLine->GetLength();
+            for (SelEnd& e : ends) {
+                if (e.line == L + 1)
+                    e.ch += moved;
+                else if (e.line == L && e.ch >= kept)
+                    ++e.line, e.ch -= kept;
+            }
+            ++L;
+            continue;
+        }
+
+        // The line fits and the paragraph goes on: pull text up while it fits.
+        bool stop = false;
+        const int N = L + 1;
+        for (;;) {
+            CStringEx* pNext = GetLine(N);
+            if (!pNext) break;
+            pLine = GetLine(L);
+            int piece = 1;
+            const int lineLength = pLine->GetLength();
+            const bool empty = pNext->GetLength() == pNext->IsEnded();
+            if (!empty && (lineLength == 0 || IsWrapDelimiter((*pLine)[lineLength - 1])) && byWord)
+                piece = pNext->GetFirstWordLength();
+            if (empty || piece == 0) {
+                // An empty line closes the gap; its terminator ends the paragraph here.
+                const bool ended = pNext->IsEnded() != 0;
+                if (ended) pLine->EnsureEnded();
+                RemoveLines(N, 1);
+                changed = true;
+                for (SelEnd& e : ends) {
+                    if (e.line > N)
+                        --e.line;
+                    else if (e.line == N)
+                        e.line = L, e.ch = lineLength;
+                }
+                if (ended) {
+                    stop = true;
+                    break;
+                }
+                CStringEx* pNow = GetLine(N);
+                if (pNow && pNow->GetLength() == 0) break;
+                continue;
+            }
+            // Measured in place: a tab in the piece widens by where it lands.
+            // A word goes up with the delimiter behind it; a hyphen there is
+            // seen and must fit too, where blanks never count.
+            int measured = piece;
+            if (piece >= 2 && measured < pNext->GetLength() && (*pNext)[measured] == '-') ++measured;
+            CStringEx joined(*pLine);
+            joined += VESK::String(pNext->c_str(), measured);
+            const int before = pNext->GetLength();
+            if (width(&joined, joined.GetVisibleLength()) > W) {
+                if (!IsBlank((*pNext)[0])) break;
+                // Blanks never make a line too wide: they always go up.
+                pNext->TransferStartingSpaces(*pLine);
+            } else {
+                pNext->TransferStart(*pLine, piece >= 2);
+            }
+            const int moved = before - pNext->GetLength();
+            const bool caretOnNext = m_nSelStartLine == N;
+            for (SelEnd& e : ends) {
+                if (e.line != N) continue;
+                e.ch -= moved;
+                if (e.ch < 0) e.line = L, e.ch += pLine->GetLength();
+            }
+            if (caretOnNext && m_nSelStartLine == L) {
+                // The caret's text went up a line: the selection closes on it.
+                m_nSelEndLine = L;
+                m_nSelEndChar = m_nSelStartChar;
+            }
+        }
+        pLine = GetLine(L);
+        if (stop || !pLine || pLine->IsEnded()) break;
+        ++L;
+    }
+
+    ReleaseStandardDC(pDC);
+    if (pbChanged && changed) *pbChanged = 1;
+    return last;
 }
 
 void CTextZone::RebuildAllParagraphs() {
     if (!(m_dwStyle & ZS_PARAGRAPH)) return;
     for (int nLine = 0; nLine < TZ_MAX_LINES && GetLine(nLine);)
         nLine = ComputeParagraph(nLine, nullptr) + 1;
-}
-
-int CTextZone::GetMaxLineWidth(int nFirst, int nLast) {
-    if (nFirst < 1) nFirst = 0;
-    CStringEx* pLongest = nullptr;
-    for (int n = nFirst; n <= nLast; ++n) {
-        CStringEx* pLine = GetLine(n);
-        if (!pLine) break;
-        if (!pLongest || pLine->GetLength() > pLongest->GetLength()) pLongest = pLine;
-        if (n == TZ_TO_END) break;
-    }
-    if (!pLongest) return 0;
-    CDC* pDC = GetStandardDC();
-    int w = GetTextWidth(pDC, pLongest->c_str(), pLongest->GetLength() - pLongest->IsEnded());
-    ReleaseStandardDC(pDC);
-    return w;
-}
-
-int CTextZone::GetCurrentLineWidth() {
-    CStringEx* pFirst = GetLine(m_nSelStartLine);
-    CStringEx* pLast = GetLine(m_nSelEndLine);
-    CStringEx* pLongest = pFirst;
-    if (!pLongest || (pLast && pLast->GetLength() > pLongest->GetLength())) pLongest = pLast;
-    if (!pLongest) return 0;
-    CDC* pDC = GetStandardDC();
-    int w = GetTextWidth(pDC, pLongest->c_str(), pLongest->GetLength() - pLongest->IsEnded());
-    ReleaseStandardDC(pDC);
-    return w;
 }

@@ -1,0 +1,165 @@
+#include <random>
+#include <string>
+
+#include "support/ZoneTest.h"
+
+namespace {
+
+// Paragraphs ten bytes wide: the fixture's font is 8 pixels a byte.
+class ParagraphTest : public ZoneTest {
+protected:
+    void Wrap(DWORD dwExtra = ZS_WORDBREAK, int nWidth = 80) {
+        m_zone.SetStyle(ZS_PARAGRAPH | dwExtra);
+        m_zone.SetMaxWidth(nWidth);
+    }
+    std::string Lines() {
+        std::string all;
+        for (int n = 0; m_zone.GetLine(n); ++n)
+            all += "[" + Line(n) + "]";
+        return all;
+    }
+    LONG CaretOffset() {
+        LONG start = 0;
+        m_zone.GetSelection(&start, nullptr, nullptr, nullptr, 1);
+        return start;
+    }
+};
+
+}  // namespace
+
+TEST_F(ParagraphTest, WithoutTheStyleNothingIsWrapped) {
+    ASSERT_TRUE(m_zone.SetText("aaa bbb ccc ddd eee\r\n"));
+    m_zone.SetMaxWidth(80);
+    int changed = 7;
+    EXPECT_EQ(m_zone.ComputeParagraph(0, &changed), 0);
+    EXPECT_EQ(changed, 0);
+    EXPECT_EQ(Lines(), "[aaa bbb ccc ddd eee\r]");
+}
+
+TEST_F(ParagraphTest, LongLinesWrapAtWordsAndTheTerminatorTravelsToTheLastPiece) {
+    Wrap();
+    ASSERT_TRUE(m_zone.SetText("aaa bbb ccc ddd eee\r\nx\r\n"));
+    EXPECT_EQ(Lines(), "[aaa bbb ][ccc ddd ][eee\r][x\r]");
+    // The wrapped lines read back as one line unless asked otherwise.
+    EXPECT_EQ(Text(), "aaa bbb ccc ddd eee\r\nx\r\n");
+    EXPECT_EQ(Text(TF_CRLF | TF_WRAPPED_ENDS), "aaa bbb \r\nccc ddd \r\neee\r\nx\r\n");
+    // Blanks at the end of a line never make it too wide.
+    ASSERT_TRUE(m_zone.SetText("aaaaaaaaaa     \r\n"));
+    EXPECT_EQ(Lines(), "[aaaaaaaaaa     \r]");
+}
+
+TEST_F(ParagraphTest, WordsWiderThanTheParagraphAndByteWrapAreCutBetweenBytes) {
+    Wrap();
+    // Wider than twice the width: cut by measuring.
+    ASSERT_TRUE(m_zone.SetText("abcdefghijklmnopqrstuvwxyz\r\n"));
+    EXPECT_EQ(Lines(), "[abcdefghij][klmnopqrst][uvwxyz\r]");
+    Wrap(0);
+    ASSERT_TRUE(m_zone.SetText("aaa bbb ccc\r\n"));
+    EXPECT_EQ(Lines(), "[aaa bbb cc][c\r]");
+    // A long line of many words, measured once: breaks stay at word starts.
+    Wrap();
+    ASSERT_TRUE(m_zone.SetText("aa bb cc dd ee ff gg hh ii jj kk\r\n"));
+    EXPECT_EQ(Lines(), "[aa bb cc ][dd ee ff ][gg hh ii ][jj kk\r]");
+}
+
+TEST_F(ParagraphTest, DeletingPullsWordsUpAndDropsLinesThatEmpty) {
+    Wrap();
+    ASSERT_TRUE(m_zone.SetText("aaa bbb ccc ddd eee\r\n"));
+    m_zone.SetSelection(0, 0, 0, 4, 0, 0);
+    m_zone.DeleteSelection(1);
+    EXPECT_EQ(Lines(), "[bbb ccc ][ddd eee\r]");
+    ExpectCaret(0, 0);
+    EXPECT_EQ(m_zone.GetLineCount(), 2);
+
+    int changed = 0;
+    m_zone.SetSelection(0, 0, 0, 8, 0, 0);
+    m_zone.DeleteSelection(1);
+    m_zone.SetSelection(0, 0, 0, 0, 0, 0);
+    m_zone.ComputeParagraph(0, &changed);
+    EXPECT_EQ(Lines(), "[ddd eee\r]");
+    EXPECT_EQ(Text(), "ddd eee\r\n");
+}
+
+TEST_F(ParagraphTest, TheCaretKeepsItsPlaceInTheTextAcrossARewrap) {
+    Wrap();
+    ASSERT_TRUE(m_zone.SetText("aaa bbb ccc\r\n"));
+    EXPECT_EQ(Lines(), "[aaa bbb ][ccc\r]");
+    m_zone.SetSelection(4, 4, 0, 0, 1, 0);
+    m_zone.InsertText("xx ", 0, 1, 1);
+    EXPECT_EQ(Text(), "aaa xx bbb ccc\r\n");
+    // "aaa xx bbb " fits: the blank at its end does not count.
+    EXPECT_EQ(Lines(), "[aaa xx bbb ][ccc\r]");
+    EXPECT_EQ(CaretOffset(), 7);
+    ExpectCaret(0, 7);
+
+    // Text inserted to stay selected is selected by offset after the rewrap.
+    m_zone.SetSelection(0, 0, 0, 0, 1, 0);
+    m_zone.InsertText("zzzz ", 1, 1, 1);
+    LONG start = -1, end = -1;
+    m_zone.GetSelection(&start, &end, nullptr, nullptr, 1);
+    EXPECT_EQ(start, 0);
+    EXPECT_EQ(end, 5);
+    EXPECT_EQ(Text(), "zzzz aaa xx bbb ccc\r\n");
+
+    // Pulling up carries the caret with its text.
+    m_zone.SetSelection(0, 5, 0, 0, 1, 0);
+    m_zone.DeleteSelection(1);
+    EXPECT_EQ(Text(), "aaa xx bbb ccc\r\n");
+    EXPECT_EQ(CaretOffset(), 0);
+}
+
+TEST_F(ParagraphTest, ChangingTheWidthRewrapsEverything) {
+    Wrap();
+    ASSERT_TRUE(m_zone.SetText("aaa bbb ccc ddd eee\r\nfff ggg hhh iii\r\n"));
+    EXPECT_EQ(m_zone.GetLineCount(), 5);
+    m_zone.SetMaxWidth(160);
+    EXPECT_EQ(Lines(), "[aaa bbb ccc ddd eee\r][fff ggg hhh iii\r]");
+    m_zone.SetMaxWidth(40);
+    EXPECT_EQ(Lines(), "[aaa ][bbb ][ccc ][ddd ][eee\r][fff ][ggg ][hhh ][iii\r]");
+    EXPECT_EQ(Text(), "aaa bbb ccc ddd eee\r\nfff ggg hhh iii\r\n");
+}
+
+// Random edits against a plain string: the wrap must never change the text,
+// every line must fit, only a paragraph's last line is ended, and the caret
+// stays at the edit's end.
+TEST_F(ParagraphTest, RandomEditsKeepTextWidthsAndCaret) {
+    std::mt19937 rng(20261123);
+    const char* pieces[] = {"a", "bb", "ccc ", " ", "dddd", "eeeeeeeeeeeeeeeeeee", "-", "\r",
+                            "ff gg hh ", "\t", "iii jjj\r", "k"};
+    for (DWORD extra : {DWORD{ZS_WORDBREAK}, DWORD{0}}) {
+        Wrap(extra, 96);
+        m_zone.SetTabWidth(-2);
+        std::string model = "start text of the paragraph\r";
+        ASSERT_TRUE(m_zone.SetText(model.c_str()));
+        for (int step = 0; step < 600; ++step) {
+            LONG at = static_cast<LONG>(rng() % (model.size() + 1));
+            if (rng() % 3 != 0) {
+                std::string piece = pieces[rng() % std::size(pieces)];
+                m_zone.SetSelection(at, at, 0, 0, 1, 0);
+                m_zone.InsertText(piece.c_str(), 0, 1, 1);
+                model.insert(static_cast<size_t>(at), piece);
+                at += static_cast<LONG>(piece.size());
+            } else {
+                LONG to = std::min<LONG>(at + static_cast<LONG>(rng() % 12),
+                                         static_cast<LONG>(model.size()));
+                m_zone.SetSelection(at, to, 0, 0, 1, 0);
+                m_zone.DeleteSelection(1);
+                model.erase(static_cast<size_t>(at), static_cast<size_t>(to - at));
+            }
+            ASSERT_EQ(Text(TF_NO_FINAL_END), model) << "step " << step << Lines();
+            ASSERT_EQ(CaretOffset(), at) << "step " << step;
+            CDC* pDC = m_zone.GetStandardDC();
+            for (int n = 0; CStringEx* line = m_zone.GetLine(n); ++n) {
+                int visible = line->GetVisibleLength();
+                if (visible > 1) {
+                    ASSERT_LE(m_zone.GetTextWidth(pDC, line->c_str(), visible), 96)
+                        << "step " << step << " line " << n << " " << Line(n);
+                }
+                // No empty line is left standing inside a paragraph.
+                ASSERT_TRUE(line->GetLength() > 0 || n == m_zone.GetLastLineIndex())
+                    << "step " << step << " line " << n;
+            }
+            m_zone.ReleaseStandardDC(pDC);
+        }
+    }
+}
