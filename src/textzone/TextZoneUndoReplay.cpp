@@ -44,7 +44,8 @@ void SelectPlace(CTextZone& zone, const CUndoUnit& unit) {
 
 // Each line from the unit's first to its last takes back its copy: the
 // bytes up to the next 10, the terminator included. The line object stays,
-// and with it its bookmarks and block flags.
+// and with it its bookmarks and block flags. The copy ends every line with
+// 13, so an unended last line comes back ended.
 void RestoreLines(CTextZone& zone, const CUndoUnit& unit) {
     const std::string& text = unit.m_hText;
     size_t pos = 0;
@@ -77,7 +78,8 @@ void HandOutJoinInfo(CTextZone& zone, const CUndoUnit& unit) {
     bool blank = true;
     if (pLine) {
         const char* p = pLine->c_str();
-        int n = std::min(zone.m_nSelStartChar, pLine->GetLength());
+        // Beyond the text a free caret stands on blanks.
+        int n = std::min(zone.m_nSelStartChar, pLine->GetLength() - pLine->IsEnded());
         for (int i = 0; i < n && blank; ++i)
             blank = IsBlank(p[i]);
     }
