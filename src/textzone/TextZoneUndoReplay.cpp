@@ -1,0 +1,232 @@
+// Undo and redo. A unit is reversed by calling the same editing operations
+// that the user's edit called; those record themselves as they run, into an
+// operation that goes to the other list. So redo is undo with the two lists
+// exchanged, and needs nothing of its own.
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "platform/Messages.h"
+#include "platform/Wnd.h"
+#include "textzone/TextZone.h"
+
+namespace {
+
+using OperationList = std::list<std::unique_ptr<CUndoOperation>>;
+
+bool IsBlank(char c) {
+    return c == ' ' || c == '\t';
+}
+
+bool ParagraphForm(const CTextZone& zone) {
+    return (zone.m_dwStyle & ZS_PARAGRAPH) && zone.m_nSelectionMode == 1;
+}
+
+void CaretToFirstPlace(CTextZone& zone, const CUndoUnit& unit) {
+    if (ParagraphForm(zone)) {
+        zone.SetSelection(unit.m_nFirstLine, unit.m_nFirstLine, 0, 0, 1, 0);
+        return;
+    }
+    zone.m_nSelStartLine = zone.m_nSelEndLine = unit.m_nFirstLine;
+    zone.m_nSelStartChar = zone.m_nSelEndChar = unit.m_nFirstChar;
+}
+
+void SelectPlace(CTextZone& zone, const CUndoUnit& unit) {
+    if (ParagraphForm(zone)) {
+        zone.SetSelection(unit.m_nFirstLine, unit.m_nFirstChar, 0, 0, 1, 0);
+        return;
+    }
+    zone.m_nSelStartLine = unit.m_nFirstLine;
+    zone.m_nSelStartChar = unit.m_nFirstChar;
+    zone.m_nSelEndLine = unit.m_nLastLine;
+    zone.m_nSelEndChar = unit.m_nLastChar;
+}
+
+// Each line from the unit's first to its last takes back its copy: the
+// bytes up to the next 10, the terminator included. The line object stays,
+// and with it its bookmarks and block flags. The copy ends every line with
+// 13, so an unended last line comes back ended.
+void RestoreLines(CTextZone& zone, const CUndoUnit& unit) {
+    const std::string& text = unit.m_hText;
+    size_t pos = 0;
+    for (int n = unit.m_nFirstLine; n <= unit.m_nLastLine && pos < text.size(); ++n) {
+        CStringEx* pLine = zone.GetLine(n);
+        if (!pLine) break;
+        size_t end = std::min(text.find('\n', pos), text.size());
+        pLine->assign(text.data() + pos, static_cast<int>(end - pos));
+        pos = end + 1;
+    }
+}
+
+// Gives the stored bookmarks back to the lines whose start lay inside the
+// deleted selection, now selected again.
+void HandOutInfos(CTextZone& zone, const CUndoUnit& unit) {
+    if (!unit.m_pInfos) return;
+    int line = zone.m_nSelStartLine + (zone.m_nSelStartChar != 0 ? 1 : 0);
+    for (const std::unique_ptr<char[]>& info : *unit.m_pInfos) {
+        CStringEx* pLine = zone.GetLine(line++);
+        if (pLine) pLine->SetSpecificInfo(info.get());
+    }
+}
+
+// After a retyped line end: the line that kept the bookmarks when the two
+// lines were joined gets them back.
+void HandOutJoinInfo(CTextZone& zone, const CUndoUnit& unit) {
+    if (!unit.m_pInfos || unit.m_pInfos->empty()) return;
+    int line = zone.m_nSelStartLine;
+    CStringEx* pLine = zone.GetLine(line);
+    bool blank = true;
+    if (pLine) {
+        const char* p = pLine->c_str();
+        // Beyond the text a free caret stands on blanks.
+        int n = std::min(zone.m_nSelStartChar, pLine->GetLength() - pLine->IsEnded());
+        for (int i = 0; i < n && blank; ++i)
+            blank = IsBlank(p[i]);
+    }
+    CStringEx* pTarget = blank ? pLine : zone.GetLine(line + 1);
+    if (pTarget) pTarget->SetSpecificInfo(unit.m_pInfos->front().get());
+}
+
+void AfterBoxRestore(CTextZone& zone, const CUndoUnit& unit, int oldFirst, int oldLast) {
+    zone.m_nSelRootLine = zone.m_nSelStartLine;
+    zone.m_nSelRootChar = zone.m_nSelStartChar;
+    zone.RedrawLines(std::min(oldFirst, zone.m_nSelStartLine), std::max(oldLast, unit.m_nLastLine),
+                     0);
+}
+
+bool IsBlockIndent(const CUndoOperation& op) {
+    return op.m_wType == 9 || op.m_wType == 10;
+}
+
+// Undo and Redo: the newest operation of one list is replayed, and what the
+// replay records becomes the newest of the other.
+void Replay(CTextZone& zone, OperationList& from, OperationList& to) {
+    if (zone.m_bReadOnly || from.empty()) return;
+    // The history keeps no mark of the saved state, so any step is a change.
+    zone.SetModify(1);
+    WORD oldMode = zone.m_nSelectionMode;
+    zone.m_bUndoing = 1;
+
+    std::unique_ptr<CUndoOperation> pOperation = std::move(from.back());
+    from.pop_back();
+    zone.m_pCurrentOperation = std::make_unique<CUndoOperation>();
+    zone.m_pCurrentOperation->m_wType = pOperation->m_wType;
+
+    zone.PerformUndoing(pOperation.get());
+
+    if (zone.m_pCurrentOperation) to.push_back(std::move(zone.m_pCurrentOperation));
+    zone.m_pCurrentOperation.reset();
+    pOperation.reset();
+    zone.m_bUndoing = 0;
+
+    if (oldMode == 1 && zone.m_nSelectionMode != 1 && !zone.TestSelection())
+        zone.SetSelectionMode(1);
+}
+
+}  // namespace
+
+void CTextZone::Undo() {
+    Replay(*this, m_undoList, m_redoList);
+}
+
+void CTextZone::Redo() {
+    Replay(*this, m_redoList, m_undoList);
+}
+
+void CTextZone::PerformUndoing(CUndoOperation* pOperation) {
+    if (!pOperation) return;
+    const CUndoOperation& op = *pOperation;
+
+    // Newest first.
+    std::vector<const CUndoUnit*> units;
+    if (op.IsGroup()) {
+        for (auto it = op.m_group.rbegin(); it != op.m_group.rend() && *it; ++it)
+            units.push_back(it->get());
+    } else {
+        if (op.m_pSecond) units.push_back(op.m_pSecond.get());
+        if (op.m_pFirst) units.push_back(op.m_pFirst.get());
+    }
+
+    for (const CUndoUnit* pUnit : units) {
+        const CUndoUnit& unit = *pUnit;
+        int oldFirst = TZ_TO_END;
+        int oldLast = 0;
+        if (TestSelection()) {
+            oldFirst = m_nSelStartLine;
+            oldLast = m_nSelEndLine;
+        }
+        // A retyped key works on a caret, whatever the mode was.
+        m_nSelectionMode = unit.m_wType == 2 || unit.m_wType == 3 ? 1 : unit.m_wSelMode;
+
+        switch (unit.m_wType) {
+            case 1:
+                CaretToFirstPlace(*this, unit);
+                if (!unit.m_hText.empty()) InsertText(unit.m_hText.c_str(), 0, 1, 1);
+                SelectPlace(*this, unit);
+                HandOutInfos(*this, unit);
+                RedrawLines(std::min(oldFirst, m_nSelStartLine), TZ_TO_END, 0);
+                break;
+
+            case 2:
+            case 3:
+                CaretToFirstPlace(*this, unit);
+                // The key handlers record the inverse themselves, and while
+                // undoing they add no automatic indentation.
+                if (unit.m_cChar == 13)
+                    HandleKeyDown(VK_RETURN, 0, 0);
+                else if (unit.m_cChar == 9)
+                    HandleKeyDown(VK_TAB, 0, 0);
+                else if (unit.m_cChar != 0)
+                    HandleChar(static_cast<unsigned char>(unit.m_cChar), 0, 0);
+                SelectPlace(*this, unit);
+                HandOutJoinInfo(*this, unit);
+                RedrawLines(std::min(oldFirst, m_nSelStartLine), std::max(oldLast, m_nSelEndLine),
+                            0);
+                break;
+
+            case 4:
+            case 5:
+                if (unit.m_wType == 4) m_nSelectionMode = 1;
+                SelectPlace(*this, unit);
+                DeleteSelection(1);
+                m_nSelectionMode = unit.m_wSelMode;
+                RedrawLines(std::min(oldFirst, m_nSelStartLine), TZ_TO_END, 0);
+                break;
+
+            case 6:
+                SelectPlace(*this, unit);
+                RegisterUnit(7);
+                if (!unit.m_hText.empty()) RestoreLines(*this, unit);
+                SelectPlace(*this, unit);
+                if (IsBlockIndent(op)) {
+                    // An indented block stays selected as whole lines.
+                    m_nSelectionMode = 1;
+                    ++m_nSelEndLine;
+                    m_nSelStartChar = m_nSelEndChar = 0;
+                }
+                AfterBoxRestore(*this, unit, oldFirst, oldLast);
+                break;
+
+            case 7:
+                SelectPlace(*this, unit);
+                RegisterUnit(6);
+                if (!unit.m_hText.empty()) RestoreLines(*this, unit);
+                m_nSelStartLine = m_nSelEndLine = unit.m_nFirstLine;
+                m_nSelStartChar = m_nSelEndChar =
+                    ComputeCharIndex(unit.m_nFirstLine, unit.m_nFirstChar);
+                if (IsBlockIndent(op)) {
+                    m_nSelectionMode = 1;
+                    m_nSelEndLine = unit.m_nLastLine + 1;
+                    m_nSelStartChar = m_nSelEndChar = 0;
+                }
+                AfterBoxRestore(*this, unit, oldFirst, oldLast);
+                break;
+
+            default:
+                break;
+        }
+    }
+
+    if (m_pWnd && m_pWnd->GetSafeHwnd()) m_pWnd->UpdateWindow();
+    DrawCaret(1, 1);
+}
