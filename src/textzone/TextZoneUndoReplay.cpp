@@ -90,6 +90,8 @@ void HandOutJoinInfo(CTextZone& zone, const CUndoUnit& unit) {
 void AfterBoxRestore(CTextZone& zone, const CUndoUnit& unit, int oldFirst, int oldLast) {
     zone.m_nSelRootLine = zone.m_nSelStartLine;
     zone.m_nSelRootChar = zone.m_nSelStartChar;
+    // The lines changed behind the editing primitives' back.
+    zone.RebuildCurrentLength();
     zone.RedrawLines(std::min(oldFirst, zone.m_nSelStartLine), std::max(oldLast, unit.m_nLastLine),
                      0);
 }

@@ -114,3 +114,38 @@ TEST_F(BoxEditTest, InsertedBoxReadsBackAndDeletesToTheSameText) {
     m_zone.DeleteSelection(1);
     EXPECT_EQ(Text(), original);
 }
+
+TEST_F(BoxEditTest, BoxEditsUndoAndRedoAsOneStepEach) {
+    const char* original = "abcdef\r\na\tb\r\nxy\r\n";
+    Load(original);
+    m_zone.SetSelection(0, 0, 2, 2, 0, 0);
+    m_zone.SetModify(1);
+    m_zone.StartRegister(6);
+    m_zone.InsertText("12\r\n34\r\n56", 0, 1, 1);
+    m_zone.EndRegister();
+    const std::string inserted = Text();
+    EXPECT_EQ(inserted, "ab12cdef\r\na 34\tb\r\nxy56\r\n");
+
+    m_zone.Undo();
+    EXPECT_EQ(Text(), original);
+    ExpectCaret(0, 2);
+    m_zone.Redo();
+    EXPECT_EQ(Text(), inserted);
+
+    // A box deletion through a tab comes back with the tab.
+    Load(original);
+    m_zone.SetSelection(0, 1, 1, 3, 2, 0);
+    m_zone.StartRegister(4);
+    m_zone.DeleteSelection(1);
+    m_zone.EndRegister();
+    EXPECT_EQ(Text(), "adef\r\na b\r\nxy\r\n");
+    m_zone.Undo();
+    EXPECT_EQ(Text(), original);
+    EXPECT_EQ(m_zone.GetSelectionMode(), 2);
+    EXPECT_EQ(m_zone.m_nSelStartLine, 0);
+    EXPECT_EQ(m_zone.m_nSelEndLine, 1);
+    EXPECT_EQ(m_zone.m_nSelStartChar, 1);
+    EXPECT_EQ(m_zone.m_nSelEndChar, 3);
+    m_zone.Redo();
+    EXPECT_EQ(Text(), "adef\r\na b\r\nxy\r\n");
+}

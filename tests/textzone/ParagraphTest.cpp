@@ -1,5 +1,6 @@
 #include <random>
 #include <string>
+#include <vector>
 
 #include "support/ZoneTest.h"
 
@@ -120,8 +121,8 @@ TEST_F(ParagraphTest, ChangingTheWidthRewrapsEverything) {
 }
 
 // Random edits against a plain string: the wrap must never change the text,
-// every line must fit, only a paragraph's last line is ended, and the caret
-// stays at the edit's end.
+// every line must fit, the caret stays at the edit's end, and the last edits
+// undo and redo through the same texts.
 TEST_F(ParagraphTest, RandomEditsKeepTextWidthsAndCaret) {
     std::mt19937 rng(20261123);
     const char* pieces[] = {"a", "bb", "ccc ", " ", "dddd", "eeeeeeeeeeeeeeeeeee", "-", "\r",
@@ -130,20 +131,26 @@ TEST_F(ParagraphTest, RandomEditsKeepTextWidthsAndCaret) {
         Wrap(extra, 96);
         m_zone.SetTabWidth(-2);
         std::string model = "start text of the paragraph\r";
+        std::vector<std::string> history;
         ASSERT_TRUE(m_zone.SetText(model.c_str()));
         for (int step = 0; step < 600; ++step) {
+            history.push_back(model);
             LONG at = static_cast<LONG>(rng() % (model.size() + 1));
             if (rng() % 3 != 0) {
                 std::string piece = pieces[rng() % std::size(pieces)];
                 m_zone.SetSelection(at, at, 0, 0, 1, 0);
+                m_zone.StartRegister(6);
                 m_zone.InsertText(piece.c_str(), 0, 1, 1);
+                m_zone.EndRegister();
                 model.insert(static_cast<size_t>(at), piece);
                 at += static_cast<LONG>(piece.size());
             } else {
                 LONG to = std::min<LONG>(at + static_cast<LONG>(rng() % 12),
                                          static_cast<LONG>(model.size()));
                 m_zone.SetSelection(at, to, 0, 0, 1, 0);
+                m_zone.StartRegister(4);
                 m_zone.DeleteSelection(1);
+                m_zone.EndRegister();
                 model.erase(static_cast<size_t>(at), static_cast<size_t>(to - at));
             }
             ASSERT_EQ(Text(TF_NO_FINAL_END), model) << "step " << step << Lines();
@@ -161,5 +168,13 @@ TEST_F(ParagraphTest, RandomEditsKeepTextWidthsAndCaret) {
             }
             m_zone.ReleaseStandardDC(pDC);
         }
+        // The history works by text offsets, so rewraps in between do not matter.
+        for (int k = 0; k < TZ_MAX_UNDO; ++k) {
+            m_zone.Undo();
+            ASSERT_EQ(Text(TF_NO_FINAL_END), history[history.size() - 1 - k]) << "undo " << k;
+        }
+        for (int k = TZ_MAX_UNDO - 1; k >= 0; --k)
+            m_zone.Redo();
+        EXPECT_EQ(Text(TF_NO_FINAL_END), model);
     }
 }
