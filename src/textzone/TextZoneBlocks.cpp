@@ -8,8 +8,6 @@
 
 namespace {
 
-using BlockList = std::list<std::unique_ptr<CEditBlk>>;
-
 long long EndOf(const CEditBlk& blk) {
     return static_cast<long long>(blk.m_nFirstLine) + blk.m_nLineCount;
 }
