@@ -5,6 +5,7 @@
 // notifications and a few keys.
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "editor/OleEditDropTarget.h"
@@ -83,8 +84,7 @@ protected:
 
     // Runs a user action with the modified flag cleared, and tells the parent
     // EN_CHANGE afterwards if the action changed the text.
-    template <typename Action>
-    void Notifying(Action action, bool bCountDepth = true);
+    void Notifying(const std::function<void()>& action, bool bCountDepth = true);
     void PostChange();
     // Set-up at the first message that needs it. Set-up sizes and repaints
     // the window, and the paint must not start it over.
