@@ -266,6 +266,17 @@ TEST_F(InputTest, WheelSendsOneMessagePerNotch) {
     notches = Only(m_wnd, {WM_MOUSEWHEEL});
     ASSERT_EQ(notches.size(), 1u);
     EXPECT_EQ(GET_WHEEL_DELTA_WPARAM(notches[0].wParam), -120);
+
+    // Over the window's own bar the wheel is still the window's.
+    m_wnd.SetScrollRange(SB_VERT, 0, 500);
+    QWidget* bar = widget->childAt(widget->width() - 2, 10);
+    ASSERT_NE(bar, nullptr);
+    m_wnd.ClearMessages();
+    QWheelEvent overBar(QPointF(2, 10), bar->mapToGlobal(QPointF(2, 10)), QPoint(), QPoint(0, -120),
+                        Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(bar, &overBar);
+    EXPECT_EQ(m_wnd.Count(WM_MOUSEWHEEL), 1);
+    EXPECT_EQ(m_wnd.Count(WM_VSCROLL), 0);
 }
 
 TEST_F(InputTest, FocusMovesWithMessagesToBothWindows) {

@@ -6,6 +6,7 @@
 
 #include "QtFixture.h"
 #include "platform/OleDataObject.h"
+#include "platform/OleDataSource.h"
 #include "platform/OleDropTarget.h"
 #include "platform/qt/Windows1252.h"
 
@@ -145,4 +146,12 @@ TEST_F(TextExchangeTest, DropTargetHearsQtDragsWithBytesKeyStateAndClientPoint) 
     target.m_events.clear();
     QApplication::sendEvent(Widget(), &enter);
     EXPECT_EQ(target.m_events, "");
+}
+
+TEST_F(TextExchangeTest, DragWithoutTheSystemsDragSupportEndsAsCancelled) {
+    // The offscreen platform cannot drag: the drag must end at once, as a
+    // cancel, rather than wait for a drop that cannot come.
+    COleDataSource source;
+    source.CacheGlobalData(CF_TEXT, "text");
+    EXPECT_EQ(source.DoDragDrop(DROPEFFECT_COPY | DROPEFFECT_MOVE, &m_wnd), DROPEFFECT_NONE);
 }

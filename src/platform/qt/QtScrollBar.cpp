@@ -1,5 +1,7 @@
 #include "platform/qt/QtScrollBar.h"
 
+#include <QCoreApplication>
+#include <QWheelEvent>
 #include <algorithm>
 
 #include "platform/Messages.h"
@@ -31,6 +33,16 @@ void CQtScrollBar::Reflect() {
     setValue(si.nPos);
     setEnabled(m_disabledArrows() != ESB_DISABLE_BOTH && si.nMax > si.nMin);
     m_bReflecting = false;
+}
+
+void CQtScrollBar::wheelEvent(QWheelEvent* event) {
+    QWidget* parent = parentWidget();
+    if (!parent) return event->ignore();
+    QWheelEvent forwarded(mapToParent(event->position()), event->globalPosition(),
+                          event->pixelDelta(), event->angleDelta(), event->buttons(),
+                          event->modifiers(), event->phase(), event->inverted(), event->source());
+    QCoreApplication::sendEvent(parent, &forwarded);
+    event->setAccepted(forwarded.isAccepted());
 }
 
 void CQtScrollBar::OnAction(int action) {

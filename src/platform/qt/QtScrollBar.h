@@ -20,6 +20,11 @@ public:
     // Shows the current state.
     void Reflect();
 
+protected:
+    // The wheel over a bar is the window's, as on the desktop, where the
+    // window's bars are part of it: it goes on to the parent.
+    void wheelEvent(QWheelEvent* event) override;
+
 private:
     void OnAction(int action);
     void Report(int nCode, int nPos);
