@@ -55,8 +55,10 @@ void CQtDC::DoFill(const RECT& rc, COLORREF cr) {
 
 void CQtDC::DoText(int x, int y, const char* p, int n, int nWidth) {
     const CQtFonts::Font& f = m_fonts.Get(GetCurrentLogFont());
+    // Italic and overhanging glyphs may reach a little past their cells.
+    int h = f.metrics.tm.tmHeight;
     QPainter painter;
-    if (!Begin(painter, QRect(x, y, nWidth, f.metrics.tm.tmHeight))) return;
+    if (!Begin(painter, QRect(x - h / 4, y, nWidth + h / 2, h))) return;
     painter.setPen(ColorOf(GetTextColor()));
     painter.setFont(f.font);
     // Glyphs go at the integer advances the text was measured with; bytes

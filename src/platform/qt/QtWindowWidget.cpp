@@ -27,23 +27,8 @@ CQtWindowWidget::CQtWindowWidget(CQtPlatform& platform, CWnd* pWnd, QWidget* pPa
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     setFocusPolicy((pWnd->GetStyle() & WS_TABSTOP) ? Qt::StrongFocus : Qt::ClickFocus);
-    for (int bar : {SB_HORZ, SB_VERT}) {
-        auto state = [this, bar] {
-            SCROLLINFO si;
-            si.cbSize = sizeof(si);
-            if (m_pWnd) m_pWnd->GetScrollInfo(bar, &si, SIF_ALL);
-            return si;
-        };
-        auto arrows = [this, bar] { return m_pWnd ? m_pWnd->GetScrollBarArrows(bar) : 0u; };
-        UINT message = bar == SB_HORZ ? WM_HSCROLL : WM_VSCROLL;
-        auto report = [this, message](int nCode, int nPos) {
-            CQtWidgetPeer::Dispatch dispatch;
-            Send(message, MAKEWPARAM(nCode, nPos), 0);
-        };
-        m_pBars[bar] = new CQtScrollBar(bar == SB_HORZ ? Qt::Horizontal : Qt::Vertical, this,
-                                        report, state, arrows);
-        m_pBars[bar]->Reflect();
-    }
+    m_pBars[SB_HORZ] = CreateBar(SB_HORZ);
+    m_pBars[SB_VERT] = CreateBar(SB_VERT);
     m_blink.setInterval(kCaretBlinkMs);
     connect(&m_blink, &QTimer::timeout, this, [this] {
         m_bCaretOn = !m_bCaretOn;
@@ -52,7 +37,24 @@ CQtWindowWidget::CQtWindowWidget(CQtPlatform& platform, CWnd* pWnd, QWidget* pPa
     Relayout();
 }
 
-CQtWindowWidget::~CQtWindowWidget() = default;
+CQtScrollBar* CQtWindowWidget::CreateBar(int nBar) {
+    auto state = [this, nBar] {
+        SCROLLINFO si;
+        si.cbSize = sizeof(si);
+        if (m_pWnd) m_pWnd->GetScrollInfo(nBar, &si, SIF_ALL);
+        return si;
+    };
+    auto arrows = [this, nBar] { return m_pWnd ? m_pWnd->GetScrollBarArrows(nBar) : 0u; };
+    UINT message = nBar == SB_HORZ ? WM_HSCROLL : WM_VSCROLL;
+    auto report = [this, message](int nCode, int nPos) {
+        CQtWidgetPeer::Dispatch dispatch;
+        Send(message, MAKEWPARAM(nCode, nPos), 0);
+    };
+    auto* bar = new CQtScrollBar(nBar == SB_HORZ ? Qt::Horizontal : Qt::Vertical, this, report,
+                                 state, arrows);
+    bar->Reflect();
+    return bar;
+}
 
 void CQtWindowWidget::Detach() {
     m_pWnd = nullptr;

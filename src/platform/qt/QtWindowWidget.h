@@ -22,7 +22,6 @@ public:
     static constexpr int kCaretBlinkMs = 530;
 
     CQtWindowWidget(CQtPlatform& platform, CWnd* pWnd, QWidget* pParent, Qt::WindowFlags flags);
-    ~CQtWindowWidget() override;
 
     // The window is going: nothing reaches it from here on.
     void Detach();
@@ -63,6 +62,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    // One of the window's own bars (SB_HORZ, SB_VERT), reporting to it.
+    CQtScrollBar* CreateBar(int nBar);
     void Key(QKeyEvent* event, bool bRelease);
     void Mouse(QMouseEvent* event, int nKind);
     // Sends a message if the window is still there; false once it is gone.
