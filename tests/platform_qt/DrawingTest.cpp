@@ -100,8 +100,11 @@ TEST_F(DrawingTest, TextIsDrawnInTheTextColourWithinItsMeasuredCell) {
 
 TEST_F(DrawingTest, WidthsAreSumsOfIntegerByteAdvancesInEveryFont) {
     const LOGFONTA fonts[] = {
-        Font("Courier New", -13), Font("Arial", -15), Font("Arial", -15, FW_BOLD),
-        Font("Times New Roman", 18), Font("", 0, FW_NORMAL, FIXED_PITCH | FF_MODERN),
+        Font("Courier New", -13),
+        Font("Arial", -15),
+        Font("Arial", -15, FW_BOLD),
+        Font("Times New Roman", 18),
+        Font("", 0, FW_NORMAL, FIXED_PITCH | FF_MODERN),
     };
     std::unique_ptr<CDC> dc(CreateDCA("DISPLAY", nullptr, nullptr, nullptr));
     ASSERT_NE(dc, nullptr);
@@ -211,7 +214,7 @@ TEST_F(DrawingTest, ImagesRoundRectsAndFocusRects) {
     CImageList list;
     ASSERT_TRUE(list.Create(4, 4, 0, 1, 1));
     std::vector<DWORD> pixels(16, 0xFF00FF00);  // opaque green
-    pixels[0] = 0x00000000;                      // one transparent corner
+    pixels[0] = 0x00000000;                     // one transparent corner
     ASSERT_EQ(list.Add(pixels), 0);
     CDC* dc = m_wnd.GetDC();
     RECT all{0, 0, 400, 300};

@@ -88,8 +88,9 @@ TEST(EventTranslatorTest, KeysMapToVirtualKeyCodesKeypadIncluded) {
     EXPECT_EQ(CQtEventTranslator::KeyFlags(Key(Qt::Key_A), false) & 0xFFFF, 1);
     EXPECT_NE(CQtEventTranslator::KeyFlags(Key(Qt::Key_Left), false) & (KF_EXTENDED << 16), 0);
     EXPECT_EQ(CQtEventTranslator::Characters(Key(Qt::Key_Delete, Qt::NoModifier, "\x7f")), "");
-    EXPECT_EQ(CQtEventTranslator::Characters(Key(static_cast<Qt::Key>(0x20AC), Qt::NoModifier, "\u20ac")),
-              "\x80");
+    EXPECT_EQ(
+        CQtEventTranslator::Characters(Key(static_cast<Qt::Key>(0x20AC), Qt::NoModifier, "\u20ac")),
+        "\x80");
 }
 
 TEST_F(InputTest, KeysArriveAsKeyDownCharAndKeyUp) {
@@ -156,8 +157,8 @@ TEST_F(InputTest, KeysArriveAsKeyDownCharAndKeyUp) {
     }
 
     wnd.ClearMessages();
-    QTest::sendKeyEvent(QTest::KeyAction::Click, widget, static_cast<Qt::Key>(0x20AC), QString::fromUtf8("€"),
-                        Qt::NoModifier);
+    QTest::sendKeyEvent(QTest::KeyAction::Click, widget, static_cast<Qt::Key>(0x20AC),
+                        QString::fromUtf8("€"), Qt::NoModifier);
     keys = Only(wnd, {WM_CHAR});
     ASSERT_EQ(keys.size(), 1u);
     EXPECT_EQ(keys[0].wParam, 0x80u);
@@ -231,8 +232,9 @@ TEST_F(InputTest, MouseArrivesWithFlagsAndClientCoordinates) {
     wnd.ClearMessages();
     QTest::mouseDClick(widget, Qt::LeftButton, Qt::NoModifier, QPoint(11, 11));
     EXPECT_EQ(wnd.Count(WM_LBUTTONDBLCLK), 1);
-    QMouseEvent press(QEvent::MouseButtonPress, QPointF(11, 11), widget->mapToGlobal(QPointF(11, 11)),
-                      Qt::RightButton, Qt::RightButton, Qt::ControlModifier);
+    QMouseEvent press(QEvent::MouseButtonPress, QPointF(11, 11),
+                      widget->mapToGlobal(QPointF(11, 11)), Qt::RightButton, Qt::RightButton,
+                      Qt::ControlModifier);
     QApplication::sendEvent(widget, &press);
     auto right = Only(wnd, {WM_RBUTTONDOWN});
     ASSERT_EQ(right.size(), 1u);
@@ -249,8 +251,9 @@ TEST_F(InputTest, MouseArrivesWithFlagsAndClientCoordinates) {
 TEST_F(InputTest, WheelSendsOneMessagePerNotch) {
     QWidget* widget = Widget();
     auto wheel = [&](int dy) {
-        QWheelEvent event(QPointF(5, 5), widget->mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, dy),
-                          Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
+        QWheelEvent event(QPointF(5, 5), widget->mapToGlobal(QPointF(5, 5)), QPoint(),
+                          QPoint(0, dy), Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase,
+                          false);
         QApplication::sendEvent(widget, &event);
     };
     wheel(240);

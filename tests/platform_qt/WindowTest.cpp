@@ -186,7 +186,8 @@ TEST_F(WindowTest, OwnScrollBarsFollowTheWindowAndReportAsScrollMessages) {
     // A click on the lower arrow asks the window; the bar stays where the
     // window keeps it.
     m_wnd.ClearMessages();
-    QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, QPoint(bar->width() / 2, bar->height() - 3));
+    QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier,
+                      QPoint(bar->width() / 2, bar->height() - 3));
     ASSERT_GE(m_wnd.Count(WM_VSCROLL), 2);
     EXPECT_EQ(LOWORD(m_wnd.Messages()[0].wParam), SB_LINEDOWN);
     EXPECT_EQ(m_wnd.Messages()[0].message, WM_VSCROLL);

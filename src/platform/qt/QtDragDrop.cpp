@@ -123,7 +123,7 @@ void CQtDragDrop::OnDrop(CWnd* pWnd, QDropEvent* pEvent, QPoint pt) {
     COleDataObject data = DataOf(*pEvent);
     DWORD effect = EffectOf(pEvent->dropAction());
     if (effect == DROPEFFECT_NONE) effect = EffectOf(pEvent->proposedAction());
-    m_dwLastEffect = target->OnDrop(pWnd, &data, effect, CPoint(pt.x(), pt.y())) ? effect
-                                                                                   : DROPEFFECT_NONE;
+    m_dwLastEffect =
+        target->OnDrop(pWnd, &data, effect, CPoint(pt.x(), pt.y())) ? effect : DROPEFFECT_NONE;
     Answer(pEvent, m_dwLastEffect);
 }

@@ -12,99 +12,85 @@ constexpr quint32 kRightShiftCode = 62;
 constexpr quint32 kRightControlCode = 105;
 constexpr quint32 kRightAltCode = 108;
 
-int KeypadKey(int key) {
-    if (key >= Qt::Key_0 && key <= Qt::Key_9) return VK_NUMPAD0 + (key - Qt::Key_0);
-    switch (key) {
-        case Qt::Key_Asterisk:
-            return VK_MULTIPLY;
-        case Qt::Key_Plus:
-            return VK_ADD;
-        case Qt::Key_Minus:
-            return VK_SUBTRACT;
-        case Qt::Key_Slash:
-            return VK_DIVIDE;
-        case Qt::Key_Period:
-        case Qt::Key_Comma:
-            return VK_DECIMAL;
-        case Qt::Key_Enter:
-            return VK_RETURN;
-        default:
-            return 0;  // navigation keys of the keypad read as themselves
-    }
-}
+struct KeyCode {
+    int key;  // Qt::Key
+    int vk;
+};
+
+// Keys of the keypad, told apart by the keypad modifier; its navigation
+// keys (Num Lock off) read as the keys they stand for.
+constexpr KeyCode kKeypadKeys[] = {
+    {Qt::Key_Asterisk, VK_MULTIPLY}, {Qt::Key_Plus, VK_ADD},       {Qt::Key_Minus, VK_SUBTRACT},
+    {Qt::Key_Slash, VK_DIVIDE},      {Qt::Key_Period, VK_DECIMAL}, {Qt::Key_Comma, VK_DECIMAL},
+    {Qt::Key_Enter, VK_RETURN},
+};
+
+constexpr KeyCode kNamedKeys[] = {
+    {Qt::Key_Backspace, VK_BACK},    {Qt::Key_Tab, VK_TAB},         {Qt::Key_Backtab, VK_TAB},
+    {Qt::Key_Clear, VK_CLEAR},       {Qt::Key_Return, VK_RETURN},   {Qt::Key_Enter, VK_RETURN},
+    {Qt::Key_Shift, VK_SHIFT},       {Qt::Key_Control, VK_CONTROL}, {Qt::Key_Alt, VK_MENU},
+    {Qt::Key_AltGr, VK_MENU},        {Qt::Key_Pause, VK_PAUSE},     {Qt::Key_CapsLock, VK_CAPITAL},
+    {Qt::Key_Escape, VK_ESCAPE},     {Qt::Key_Space, VK_SPACE},     {Qt::Key_PageUp, VK_PRIOR},
+    {Qt::Key_PageDown, VK_NEXT},     {Qt::Key_End, VK_END},         {Qt::Key_Home, VK_HOME},
+    {Qt::Key_Left, VK_LEFT},         {Qt::Key_Up, VK_UP},           {Qt::Key_Right, VK_RIGHT},
+    {Qt::Key_Down, VK_DOWN},         {Qt::Key_Select, VK_SELECT},   {Qt::Key_Printer, VK_PRINT},
+    {Qt::Key_Execute, VK_EXECUTE},   {Qt::Key_Print, VK_SNAPSHOT},  {Qt::Key_SysReq, VK_SNAPSHOT},
+    {Qt::Key_Insert, VK_INSERT},     {Qt::Key_Delete, VK_DELETE},   {Qt::Key_Help, VK_HELP},
+    {Qt::Key_Meta, VK_LWIN},         {Qt::Key_Super_L, VK_LWIN},    {Qt::Key_Super_R, VK_RWIN},
+    {Qt::Key_Menu, VK_APPS},         {Qt::Key_Sleep, VK_SLEEP},     {Qt::Key_NumLock, VK_NUMLOCK},
+    {Qt::Key_ScrollLock, VK_SCROLL}, {Qt::Key_Cancel, VK_CANCEL},
+};
 
 // Punctuation by the key that types it on a US keyboard, shifted or not.
-int PunctuationKey(int key) {
-    switch (key) {
-        case Qt::Key_Semicolon: case Qt::Key_Colon: return VK_OEM_1;
-        case Qt::Key_Equal: case Qt::Key_Plus: return VK_OEM_PLUS;
-        case Qt::Key_Comma: case Qt::Key_Less: return VK_OEM_COMMA;
-        case Qt::Key_Minus: case Qt::Key_Underscore: return VK_OEM_MINUS;
-        case Qt::Key_Period: case Qt::Key_Greater: return VK_OEM_PERIOD;
-        case Qt::Key_Slash: case Qt::Key_Question: return VK_OEM_2;
-        case Qt::Key_QuoteLeft: case Qt::Key_AsciiTilde: return VK_OEM_3;
-        case Qt::Key_BracketLeft: case Qt::Key_BraceLeft: return VK_OEM_4;
-        case Qt::Key_Backslash: case Qt::Key_Bar: return VK_OEM_5;
-        case Qt::Key_BracketRight: case Qt::Key_BraceRight: return VK_OEM_6;
-        case Qt::Key_Apostrophe: case Qt::Key_QuoteDbl: return VK_OEM_7;
-        case Qt::Key_Exclam: return '1';
-        case Qt::Key_At: return '2';
-        case Qt::Key_NumberSign: return '3';
-        case Qt::Key_Dollar: return '4';
-        case Qt::Key_Percent: return '5';
-        case Qt::Key_AsciiCircum: return '6';
-        case Qt::Key_Ampersand: return '7';
-        case Qt::Key_ParenLeft: return '9';
-        case Qt::Key_ParenRight: return '0';
-        default: return 0;
-    }
+// clang-format off
+constexpr KeyCode kPunctuationKeys[] = {
+    {Qt::Key_Semicolon, VK_OEM_1},       {Qt::Key_Colon, VK_OEM_1},
+    {Qt::Key_Equal, VK_OEM_PLUS},        {Qt::Key_Plus, VK_OEM_PLUS},
+    {Qt::Key_Comma, VK_OEM_COMMA},       {Qt::Key_Less, VK_OEM_COMMA},
+    {Qt::Key_Minus, VK_OEM_MINUS},       {Qt::Key_Underscore, VK_OEM_MINUS},
+    {Qt::Key_Period, VK_OEM_PERIOD},     {Qt::Key_Greater, VK_OEM_PERIOD},
+    {Qt::Key_Slash, VK_OEM_2},           {Qt::Key_Question, VK_OEM_2},
+    {Qt::Key_QuoteLeft, VK_OEM_3},       {Qt::Key_AsciiTilde, VK_OEM_3},
+    {Qt::Key_BracketLeft, VK_OEM_4},     {Qt::Key_BraceLeft, VK_OEM_4},
+    {Qt::Key_Backslash, VK_OEM_5},       {Qt::Key_Bar, VK_OEM_5},
+    {Qt::Key_BracketRight, VK_OEM_6},    {Qt::Key_BraceRight, VK_OEM_6},
+    {Qt::Key_Apostrophe, VK_OEM_7},      {Qt::Key_QuoteDbl, VK_OEM_7},
+    {Qt::Key_Exclam, '1'},      {Qt::Key_At, '2'},          {Qt::Key_NumberSign, '3'},
+    {Qt::Key_Dollar, '4'},      {Qt::Key_Percent, '5'},     {Qt::Key_AsciiCircum, '6'},
+    {Qt::Key_Ampersand, '7'},   {Qt::Key_Asterisk, '8'},    {Qt::Key_ParenLeft, '9'},
+    {Qt::Key_ParenRight, '0'},
+};
+// clang-format on
+
+template <size_t N>
+int Find(const KeyCode (&table)[N], int key) {
+    for (const KeyCode& k : table)
+        if (k.key == key) return k.vk;
+    return 0;
+}
+
+int KeypadKey(int key) {
+    if (key >= Qt::Key_0 && key <= Qt::Key_9) return VK_NUMPAD0 + (key - Qt::Key_0);
+    return Find(kKeypadKeys, key);
 }
 
 int NamedKey(int key) {
     if (key >= Qt::Key_F1 && key <= Qt::Key_F24) return VK_F1 + (key - Qt::Key_F1);
-    switch (key) {
-        case Qt::Key_Backspace: return VK_BACK;
-        case Qt::Key_Tab: case Qt::Key_Backtab: return VK_TAB;
-        case Qt::Key_Clear: return VK_CLEAR;
-        case Qt::Key_Return: case Qt::Key_Enter: return VK_RETURN;
-        case Qt::Key_Shift: return VK_SHIFT;
-        case Qt::Key_Control: return VK_CONTROL;
-        case Qt::Key_Alt: case Qt::Key_AltGr: return VK_MENU;
-        case Qt::Key_Pause: return VK_PAUSE;
-        case Qt::Key_CapsLock: return VK_CAPITAL;
-        case Qt::Key_Escape: return VK_ESCAPE;
-        case Qt::Key_Space: return VK_SPACE;
-        case Qt::Key_PageUp: return VK_PRIOR;
-        case Qt::Key_PageDown: return VK_NEXT;
-        case Qt::Key_End: return VK_END;
-        case Qt::Key_Home: return VK_HOME;
-        case Qt::Key_Left: return VK_LEFT;
-        case Qt::Key_Up: return VK_UP;
-        case Qt::Key_Right: return VK_RIGHT;
-        case Qt::Key_Down: return VK_DOWN;
-        case Qt::Key_Select: return VK_SELECT;
-        case Qt::Key_Printer: return VK_PRINT;
-        case Qt::Key_Execute: return VK_EXECUTE;
-        case Qt::Key_Print: case Qt::Key_SysReq: return VK_SNAPSHOT;
-        case Qt::Key_Insert: return VK_INSERT;
-        case Qt::Key_Delete: return VK_DELETE;
-        case Qt::Key_Help: return VK_HELP;
-        case Qt::Key_Meta: case Qt::Key_Super_L: return VK_LWIN;
-        case Qt::Key_Super_R: return VK_RWIN;
-        case Qt::Key_Menu: return VK_APPS;
-        case Qt::Key_Sleep: return VK_SLEEP;
-        case Qt::Key_NumLock: return VK_NUMLOCK;
-        case Qt::Key_ScrollLock: return VK_SCROLL;
-        case Qt::Key_Cancel: return VK_CANCEL;
-        default: return 0;
-    }
+    return Find(kNamedKeys, key);
 }
 
 bool IsExtendedKey(int key, bool bKeypad) {
     switch (key) {
-        case Qt::Key_Insert: case Qt::Key_Delete: case Qt::Key_Home: case Qt::Key_End:
-        case Qt::Key_PageUp: case Qt::Key_PageDown: case Qt::Key_Left: case Qt::Key_Up:
-        case Qt::Key_Right: case Qt::Key_Down:
+        case Qt::Key_Insert:
+        case Qt::Key_Delete:
+        case Qt::Key_Home:
+        case Qt::Key_End:
+        case Qt::Key_PageUp:
+        case Qt::Key_PageDown:
+        case Qt::Key_Left:
+        case Qt::Key_Up:
+        case Qt::Key_Right:
+        case Qt::Key_Down:
             return !bKeypad;
         case Qt::Key_Enter:
             return true;
@@ -124,7 +110,7 @@ int CQtEventTranslator::VirtualKey(const QKeyEvent& event) {
     if ((key >= Qt::Key_A && key <= Qt::Key_Z) || (key >= Qt::Key_0 && key <= Qt::Key_9))
         return key;  // letters and digits are their upper-case ASCII codes
     if (int vk = NamedKey(key)) return vk;
-    if (int vk = PunctuationKey(key)) return vk;
+    if (int vk = Find(kPunctuationKeys, key)) return vk;
     // Other keys that type something (letters of other layouts) share one code.
     return event.text().isEmpty() ? 0 : VK_OEM_8;
 }
@@ -169,7 +155,8 @@ std::string CQtEventTranslator::Characters(const QKeyEvent& event) {
 
 bool CQtEventTranslator::IsSystemKey(const QKeyEvent& event) {
     Qt::KeyboardModifiers mods = event.modifiers();
-    return ((mods & Qt::AltModifier) && !(mods & Qt::ControlModifier)) || event.key() == Qt::Key_F10 ||
+    return ((mods & Qt::AltModifier) && !(mods & Qt::ControlModifier)) ||
+           event.key() == Qt::Key_F10 ||
            (event.key() == Qt::Key_Alt && !(mods & Qt::ControlModifier));
 }
 

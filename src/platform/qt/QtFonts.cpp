@@ -26,9 +26,9 @@ QString FamilyOf(const LOGFONTA& lf) {
         return QString::fromLatin1(CQtFonts::kFixedFamily);
     if (FaceIs(face, {"Times New Roman", "Times", "Serif"}))
         return QString::fromLatin1(CQtFonts::kSerifFamily);
-    if (face[0] == 0 || FaceIs(face, {"System", "Arial", "MS Sans Serif", "MS Shell Dlg",
-                                      "MS Shell Dlg 2", "Tahoma", "Segoe UI", "Verdana",
-                                      "Helvetica", "Sans"}))
+    if (face[0] == 0 ||
+        FaceIs(face, {"System", "Arial", "MS Sans Serif", "MS Shell Dlg", "MS Shell Dlg 2",
+                      "Tahoma", "Segoe UI", "Verdana", "Helvetica", "Sans"}))
         return QString::fromLatin1(CQtFonts::kSansFamily);
     return QString::fromLatin1(face);
 }
@@ -87,9 +87,10 @@ void CQtFonts::Measure(Font& f, const LOGFONTA& lf) {
         f.glyphs[static_cast<size_t>(i)] = glyphs[i];
         // A character the face lacks is drawn from a fallback face, and
         // measured there too.
-        qreal advance = glyphs[i] != 0 || i < 0x20
-                            ? f.raw.advancesForGlyphIndexes(QVector<quint32>{glyphs[i]}).value(0).x()
-                            : fmf.horizontalAdvance(chars[i]);
+        qreal advance =
+            glyphs[i] != 0 || i < 0x20
+                ? f.raw.advancesForGlyphIndexes(QVector<quint32>{glyphs[i]}).value(0).x()
+                : fmf.horizontalAdvance(chars[i]);
         f.metrics.widths[static_cast<size_t>(i)] = qRound(advance);
     }
 
@@ -101,7 +102,8 @@ void CQtFonts::Measure(Font& f, const LOGFONTA& lf) {
     tm.tmInternalLeading = std::max(0, tm.tmHeight - f.font.pixelSize());
     tm.tmExternalLeading = std::max(0, fm.leading());
     const auto& w = f.metrics.widths;
-    bool fixed = std::all_of(w.begin() + 0x20, w.begin() + 0x7F, [&](int x) { return x == w[' ']; });
+    bool fixed =
+        std::all_of(w.begin() + 0x20, w.begin() + 0x7F, [&](int x) { return x == w[' ']; });
     tm.tmAveCharWidth = fixed ? w['x'] : std::max(1, fm.averageCharWidth());
     tm.tmMaxCharWidth = *std::max_element(w.begin() + 0x20, w.end());
     tm.tmWeight = f.font.weight();

@@ -21,8 +21,7 @@ void CQtKeyState::OnKey(const QKeyEvent& event, bool bRelease) {
     if (sided) m_down.insert(sided);
 }
 
-CQtKeyState::Scope::Scope(CQtKeyState& state, Qt::KeyboardModifiers mods,
-                          Qt::MouseButtons buttons)
+CQtKeyState::Scope::Scope(CQtKeyState& state, Qt::KeyboardModifiers mods, Qt::MouseButtons buttons)
     : m_state(state),
       m_bHad(state.m_bInEvent),
       m_mods(state.m_eventMods),
@@ -59,13 +58,19 @@ SHORT CQtKeyState::GetKeyState(int nVirtKey) const {
     };
     bool down;
     switch (nVirtKey) {
-        case VK_SHIFT: case VK_LSHIFT: case VK_RSHIFT:
+        case VK_SHIFT:
+        case VK_LSHIFT:
+        case VK_RSHIFT:
             down = sided(Qt::ShiftModifier, VK_SHIFT, VK_LSHIFT, VK_RSHIFT);
             break;
-        case VK_CONTROL: case VK_LCONTROL: case VK_RCONTROL:
+        case VK_CONTROL:
+        case VK_LCONTROL:
+        case VK_RCONTROL:
             down = sided(Qt::ControlModifier, VK_CONTROL, VK_LCONTROL, VK_RCONTROL);
             break;
-        case VK_MENU: case VK_LMENU: case VK_RMENU:
+        case VK_MENU:
+        case VK_LMENU:
+        case VK_RMENU:
             down = sided(Qt::AltModifier, VK_MENU, VK_LMENU, VK_RMENU);
             break;
         case VK_LBUTTON:

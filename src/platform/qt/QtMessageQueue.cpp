@@ -36,8 +36,7 @@ void CQtMessageQueue::Post(const MSG& msg) {
     QCoreApplication::postEvent(this, new CDeliverEvent(id));
 }
 
-BOOL CQtMessageQueue::Peek(MSG* pMsg, CWnd* pWnd, UINT nFilterMin, UINT nFilterMax,
-                           UINT nRemove) {
+BOOL CQtMessageQueue::Peek(MSG* pMsg, CWnd* pWnd, UINT nFilterMin, UINT nFilterMax, UINT nRemove) {
     std::lock_guard<std::mutex> guard(m_lock);
     auto it = std::find_if(m_queue.begin(), m_queue.end(), [&](const Entry& e) {
         return Matches(e.msg, pWnd, nFilterMin, nFilterMax);

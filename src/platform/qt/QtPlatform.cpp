@@ -23,22 +23,38 @@ namespace {
 
 Qt::CursorShape ShapeOf(int nId) {
     switch (nId) {
-        case IDC_IBEAM: return Qt::IBeamCursor;
-        case IDC_WAIT: return Qt::WaitCursor;
-        case IDC_CROSS: return Qt::CrossCursor;
-        case IDC_UPARROW: return Qt::UpArrowCursor;
-        case IDC_SIZEALL: return Qt::SizeAllCursor;
-        case IDC_NO: return Qt::ForbiddenCursor;
-        case IDC_HAND: return Qt::PointingHandCursor;
-        case IDC_APPSTARTING: return Qt::BusyCursor;
-        case IDC_SIZENWSE: return Qt::SizeFDiagCursor;
-        case IDC_SIZENESW: return Qt::SizeBDiagCursor;
-        case IDC_SIZEWE: return Qt::SizeHorCursor;
-        case IDC_SIZENS: return Qt::SizeVerCursor;
-        case 31: return Qt::DragCopyCursor;  // the library's own drag cursors
-        case 32: return Qt::DragMoveCursor;
-        case 0: return Qt::BlankCursor;
-        default: return Qt::ArrowCursor;
+        case IDC_IBEAM:
+            return Qt::IBeamCursor;
+        case IDC_WAIT:
+            return Qt::WaitCursor;
+        case IDC_CROSS:
+            return Qt::CrossCursor;
+        case IDC_UPARROW:
+            return Qt::UpArrowCursor;
+        case IDC_SIZEALL:
+            return Qt::SizeAllCursor;
+        case IDC_NO:
+            return Qt::ForbiddenCursor;
+        case IDC_HAND:
+            return Qt::PointingHandCursor;
+        case IDC_APPSTARTING:
+            return Qt::BusyCursor;
+        case IDC_SIZENWSE:
+            return Qt::SizeFDiagCursor;
+        case IDC_SIZENESW:
+            return Qt::SizeBDiagCursor;
+        case IDC_SIZEWE:
+            return Qt::SizeHorCursor;
+        case IDC_SIZENS:
+            return Qt::SizeVerCursor;
+        case 31:
+            return Qt::DragCopyCursor;  // the library's own drag cursors
+        case 32:
+            return Qt::DragMoveCursor;
+        case 0:
+            return Qt::BlankCursor;
+        default:
+            return Qt::ArrowCursor;
     }
 }
 
@@ -149,8 +165,7 @@ CWnd* CQtPlatform::SetCapture(CWnd* pWnd) {
     CWnd* old = m_pCapture;
     m_pCapture = pWnd;
     if (QWidget* widget = WidgetOf(pWnd)) widget->grabMouse();
-    if (old && old != pWnd)
-        old->SendMessage(WM_CAPTURECHANGED, 0, reinterpret_cast<LPARAM>(pWnd));
+    if (old && old != pWnd) old->SendMessage(WM_CAPTURECHANGED, 0, reinterpret_cast<LPARAM>(pWnd));
     return old;
 }
 

@@ -13,7 +13,8 @@ CQtScrollBar::CQtScrollBar(Qt::Orientation orientation, QWidget* pParent, Handle
       m_state(std::move(state)),
       m_disabledArrows(std::move(disabledArrows)) {
     setFocusPolicy(Qt::NoFocus);
-    connect(this, &QAbstractSlider::actionTriggered, this, [this](int action) { OnAction(action); });
+    connect(this, &QAbstractSlider::actionTriggered, this,
+            [this](int action) { OnAction(action); });
     connect(this, &QAbstractSlider::sliderReleased, this, [this] {
         Report(SB_THUMBPOSITION, sliderPosition());
         Report(SB_ENDSCROLL, 0);

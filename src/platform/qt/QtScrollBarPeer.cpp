@@ -15,22 +15,23 @@ Qt::Orientation OrientationOf(const CREATESTRUCTA& cs) {
 }  // namespace
 
 CQtScrollBarPeer::CQtScrollBarPeer(CQtPlatform& platform, CWnd* pWnd, const CREATESTRUCTA& cs)
-    : CQtWidgetPeer(pWnd,
-                    new CQtScrollBar(
-                        OrientationOf(cs), ParentWidgetFor(cs),
-                        [this](int nCode, int nPos) {
-                            CQtWidgetPeer::Dispatch dispatch;
-                            if (auto* bar = dynamic_cast<CScrollBar*>(m_pAttached))
-                                bar->NotifyParent(nCode, nPos);
-                        },
-                        [pWnd, this] {
-                            SCROLLINFO si;
-                            si.cbSize = sizeof(si);
-                            if (m_pAttached) pWnd->GetScrollInfo(SB_CTL, &si, SIF_ALL);
-                            return si;
-                        },
-                        [pWnd, this] { return m_pAttached ? pWnd->GetScrollBarArrows(SB_CTL) : 0u; }),
-                    cs),
+    : CQtWidgetPeer(
+          pWnd,
+          new CQtScrollBar(
+              OrientationOf(cs), ParentWidgetFor(cs),
+              [this](int nCode, int nPos) {
+                  CQtWidgetPeer::Dispatch dispatch;
+                  if (auto* bar = dynamic_cast<CScrollBar*>(m_pAttached))
+                      bar->NotifyParent(nCode, nPos);
+              },
+              [pWnd, this] {
+                  SCROLLINFO si;
+                  si.cbSize = sizeof(si);
+                  if (m_pAttached) pWnd->GetScrollInfo(SB_CTL, &si, SIF_ALL);
+                  return si;
+              },
+              [pWnd, this] { return m_pAttached ? pWnd->GetScrollBarArrows(SB_CTL) : 0u; }),
+          cs),
       m_platform(platform),
       m_pAttached(pWnd) {
     m_pBar = static_cast<CQtScrollBar*>(GetWidget());

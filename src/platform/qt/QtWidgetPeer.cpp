@@ -54,8 +54,8 @@ void CQtWidgetPeer::GetWindowRect(RECT* prc) {
 
 void CQtWidgetPeer::SetWindowRect(const RECT& rc) {
     QPoint origin = ParentClientOrigin();
-    m_pWidget->setGeometry(rc.left + origin.x(), rc.top + origin.y(), std::max(0, rc.right - rc.left),
-                           std::max(0, rc.bottom - rc.top));
+    m_pWidget->setGeometry(rc.left + origin.x(), rc.top + origin.y(),
+                           std::max(0, rc.right - rc.left), std::max(0, rc.bottom - rc.top));
 }
 
 void CQtWidgetPeer::ClientToScreen(POINT* ppt) {

@@ -13,7 +13,8 @@ Qt::WindowFlags FlagsFor(const CREATESTRUCTA& cs) {
     if (!CQtWidgetPeer::IsTopLevel(cs)) return Qt::Widget;
     Qt::WindowFlags flags = Qt::Window;
     if (static_cast<DWORD>(cs.style) & WS_POPUP) {
-        flags = (cs.dwExStyle & WS_EX_TOOLWINDOW) ? Qt::ToolTip : (Qt::Tool | Qt::FramelessWindowHint);
+        flags =
+            (cs.dwExStyle & WS_EX_TOOLWINDOW) ? Qt::ToolTip : (Qt::Tool | Qt::FramelessWindowHint);
     }
     if (cs.dwExStyle & WS_EX_TOPMOST) flags |= Qt::WindowStaysOnTopHint;
     return flags;
@@ -22,7 +23,8 @@ Qt::WindowFlags FlagsFor(const CREATESTRUCTA& cs) {
 }  // namespace
 
 CQtWindowPeer::CQtWindowPeer(CQtPlatform& platform, CWnd* pWnd, const CREATESTRUCTA& cs)
-    : CQtWidgetPeer(pWnd, new CQtWindowWidget(platform, pWnd, ParentWidgetFor(cs), FlagsFor(cs)), cs),
+    : CQtWidgetPeer(pWnd, new CQtWindowWidget(platform, pWnd, ParentWidgetFor(cs), FlagsFor(cs)),
+                    cs),
       m_platform(platform) {
     m_pWindowWidget = static_cast<CQtWindowWidget*>(GetWidget());
     if (cs.dwExStyle & (WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE))

@@ -82,6 +82,6 @@ private:
     CQtScrollBar* m_pBars[2] = {nullptr, nullptr};
     QTimer m_blink;
     bool m_bCaretOn = false;
-    QRect m_rcCaret;  // in client coordinates, empty when there is none here
+    QRect m_rcCaret;     // in client coordinates, empty when there is none here
     QPoint m_wheelRest;  // the part of the wheel that has not made a notch yet
 };

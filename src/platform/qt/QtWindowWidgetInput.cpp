@@ -43,7 +43,8 @@ void CQtWindowWidget::Key(QKeyEvent* event, bool bRelease) {
     LPARAM flags = CQtEventTranslator::KeyFlags(*event, bRelease);
     event->accept();
     if (vk) {
-        UINT message = bRelease ? (sys ? WM_SYSKEYUP : WM_KEYUP) : (sys ? WM_SYSKEYDOWN : WM_KEYDOWN);
+        UINT message =
+            bRelease ? (sys ? WM_SYSKEYUP : WM_KEYUP) : (sys ? WM_SYSKEYDOWN : WM_KEYDOWN);
         if (!Send(message, static_cast<WPARAM>(vk), flags)) return;
     }
     if (bRelease) return;
@@ -74,7 +75,8 @@ void CQtWindowWidget::Mouse(QMouseEvent* event, int nKind) {
     m_platform.SetCursorWidget(this);
     CQtKeyState::Scope scope(m_platform.KeyState(), event->modifiers(), event->buttons());
     event->accept();
-    UINT message = nKind == 3 ? WM_MOUSEMOVE : CQtEventTranslator::ButtonMessage(event->button(), nKind);
+    UINT message =
+        nKind == 3 ? WM_MOUSEMOVE : CQtEventTranslator::ButtonMessage(event->button(), nKind);
     if (message == 0) return;
     QPoint pt = ToClient(event->position());
     // The window chooses the cursor before each move and press, as on the
