@@ -324,3 +324,35 @@ TEST_F(InputTest, KeyboardHooksHearEveryKeyOnceAndMayKeepIt) {
     EXPECT_EQ(g_nHookCalls, 5);
     EXPECT_EQ(wnd.Count(WM_KEYDOWN), 2);
 }
+
+TEST_F(InputTest, WindowsChooseTheirCursorOnEachMoveAndWaitCursorsNest) {
+    struct CIBeamWnd : CRecordingWnd {
+        LRESULT WindowProc(UINT m, WPARAM w, LPARAM l) override {
+            if (m == WM_SETCURSOR) {
+                ::SetCursor(LoadCursorA(nullptr, m_nCursor));
+                return TRUE;
+            }
+            return CRecordingWnd::WindowProc(m, w, l);
+        }
+        int m_nCursor = IDC_IBEAM;
+    } wnd;
+    ASSERT_TRUE(wnd.Create(WS_VISIBLE, RECT{0, 0, 100, 100}, nullptr, 0));
+    QTest::mouseMove(Widget(&wnd), QPoint(10, 10));
+    EXPECT_EQ(Widget(&wnd)->cursor().shape(), Qt::IBeamCursor);
+    wnd.m_nCursor = 32;  // the library's move-drag cursor
+    QTest::mouseMove(Widget(&wnd), QPoint(11, 10));
+    EXPECT_EQ(Widget(&wnd)->cursor().shape(), Qt::DragMoveCursor);
+    // A window that leaves the cursor alone gets the arrow.
+    QTest::mouseMove(Widget(), QPoint(20, 20));
+    EXPECT_EQ(Widget()->cursor().shape(), Qt::ArrowCursor);
+
+    m_wnd.BeginWaitCursor();
+    m_wnd.BeginWaitCursor();
+    ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    m_wnd.EndWaitCursor();
+    EXPECT_NE(QGuiApplication::overrideCursor(), nullptr);
+    m_wnd.EndWaitCursor();
+    m_wnd.EndWaitCursor();  // one too many is harmless
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}

@@ -192,7 +192,10 @@ HCURSOR CQtPlatform::SetCursor(HCURSOR hCursor) {
 void CQtPlatform::ApplyCursor() {
     // The desktop's cursor belongs to the screen; here it is the cursor of
     // the window under the mouse.
-    if (m_pCursorWidget) m_pCursorWidget->setCursor(ShapeOf(GetCursorId(m_hCursor)));
+    if (!m_pCursorWidget) return;
+    Qt::CursorShape shape = ShapeOf(GetCursorId(m_hCursor));
+    // Windows set their cursor on every move; most of the time it is the same.
+    if (m_pCursorWidget->cursor().shape() != shape) m_pCursorWidget->setCursor(shape);
 }
 
 void CQtPlatform::BeginWaitCursor() {

@@ -1,9 +1,12 @@
 #include "platform/qt/QtWindowPeer.h"
 
+#include <cstring>
+
 #include "platform/Messages.h"
 #include "platform/qt/QtDC.h"
 #include "platform/qt/QtPlatform.h"
 #include "platform/qt/QtWindowWidget.h"
+#include "platform/qt/Windows1252.h"
 
 namespace {
 
@@ -29,6 +32,9 @@ CQtWindowPeer::CQtWindowPeer(CQtPlatform& platform, CWnd* pWnd, const CREATESTRU
     m_pWindowWidget = static_cast<CQtWindowWidget*>(GetWidget());
     if (cs.dwExStyle & (WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE))
         m_pWindowWidget->setAttribute(Qt::WA_ShowWithoutActivating);
+    if (cs.lpszName)
+        m_pWindowWidget->setWindowTitle(
+            CWindows1252::ToQString(cs.lpszName, static_cast<int>(std::strlen(cs.lpszName))));
     SetWindowRect(RECT{cs.x, cs.y, cs.x + cs.cx, cs.y + cs.cy});
     if (cs.style & WS_VISIBLE) m_pWindowWidget->show();
 }
