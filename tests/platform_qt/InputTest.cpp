@@ -356,3 +356,24 @@ TEST_F(InputTest, WindowsChooseTheirCursorOnEachMoveAndWaitCursorsNest) {
     m_wnd.EndWaitCursor();  // one too many is harmless
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
+
+TEST_F(InputTest, CaptureGrabsTheMouseAndTellsTheWindowThatLosesIt) {
+    CRecordingWnd other;
+    ASSERT_TRUE(other.Create(WS_VISIBLE, RECT{0, 0, 50, 50}, nullptr, 0));
+    m_wnd.SetCapture();
+    EXPECT_EQ(CWnd::GetCapture(), &m_wnd);
+    EXPECT_EQ(QWidget::mouseGrabber(), Widget());
+    other.SetCapture();
+    EXPECT_EQ(m_wnd.Count(WM_CAPTURECHANGED), 1);
+    EXPECT_EQ(QWidget::mouseGrabber(), Widget(&other));
+    ReleaseCapture();
+    EXPECT_EQ(other.Count(WM_CAPTURECHANGED), 1);
+    EXPECT_EQ(CWnd::GetCapture(), nullptr);
+    EXPECT_EQ(QWidget::mouseGrabber(), nullptr);
+
+    // A window going away lets the mouse go.
+    other.SetCapture();
+    other.DestroyWindow();
+    EXPECT_EQ(CWnd::GetCapture(), nullptr);
+    EXPECT_EQ(QWidget::mouseGrabber(), nullptr);
+}

@@ -98,7 +98,11 @@ std::unique_ptr<CDC> CQtPlatform::CreateDisplayDC() {
 
 void CQtPlatform::OnWindowDestroyed(CWnd* pWnd) {
     m_queue.Forget(pWnd);
-    if (m_pCapture == pWnd) ReleaseCapture();
+    if (m_pCapture == pWnd) {
+        // Gone past WM_NCDESTROY: it hears nothing more, the mouse just goes.
+        m_pCapture = nullptr;
+        if (QWidget* widget = WidgetOf(pWnd)) widget->releaseMouse();
+    }
     if (m_pFocus == pWnd) m_pFocus = nullptr;
     m_dragDrop.Revoke(pWnd);
 }
