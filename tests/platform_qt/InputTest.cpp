@@ -1,5 +1,7 @@
 // Qt input reaching windows as messages.
 #include <QKeyEvent>
+#include <QPointer>
+#include <QScrollBar>
 #include <QTest>
 
 #include "QtFixture.h"
@@ -376,4 +378,41 @@ TEST_F(InputTest, CaptureGrabsTheMouseAndTellsTheWindowThatLosesIt) {
     other.DestroyWindow();
     EXPECT_EQ(CWnd::GetCapture(), nullptr);
     EXPECT_EQ(QWidget::mouseGrabber(), nullptr);
+}
+
+TEST_F(InputTest, WindowDestroyedByItsOwnInputIsLetGoSafely) {
+    struct CSelfClosingWnd : CRecordingWnd {
+        LRESULT WindowProc(UINT m, WPARAM w, LPARAM l) override {
+            LRESULT r = CRecordingWnd::WindowProc(m, w, l);
+            if (m == m_nCloseOn) DestroyWindow();
+            return r;
+        }
+        UINT m_nCloseOn = 0;
+    };
+    for (UINT closeOn :
+         {UINT(WM_KEYDOWN), UINT(WM_LBUTTONDOWN), UINT(WM_VSCROLL), UINT(WM_PAINT)}) {
+        SCOPED_TRACE(closeOn);
+        CSelfClosingWnd wnd;
+        ASSERT_TRUE(wnd.Create(WS_VISIBLE | WS_VSCROLL, RECT{0, 0, 100, 100}, nullptr, 0));
+        wnd.SetScrollRange(SB_VERT, 0, 100);
+        Pump();
+        wnd.m_nCloseOn = closeOn;
+        QPointer<QWidget> widget = Widget(&wnd);
+        QScrollBar* bar = nullptr;
+        for (QScrollBar* b : widget->findChildren<QScrollBar*>())
+            if (b->orientation() == Qt::Vertical) bar = b;
+        if (closeOn == WM_KEYDOWN) QTest::keyClick(widget, Qt::Key_A);
+        if (closeOn == WM_LBUTTONDOWN) QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(5, 5));
+        if (closeOn == WM_VSCROLL) bar->triggerAction(QAbstractSlider::SliderPageStepAdd);
+        if (closeOn == WM_PAINT) {
+            wnd.InvalidateRect(nullptr, FALSE);
+            Pump();
+        }
+        EXPECT_EQ(wnd.GetSafeHwnd(), nullptr);
+        // Nothing more reached it (no WM_CHAR, no button up, no end of scroll).
+        EXPECT_EQ(wnd.Messages().back().message, WM_NCDESTROY);
+        Pump();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_TRUE(widget.isNull());
+    }
 }
