@@ -240,3 +240,20 @@ TEST_F(DrawingTest, ImagesRoundRectsAndFocusRects) {
     EXPECT_GT(CountPixels(image, QRect(200, 200, 20, 1), RGB(0, 0, 0)), 5);
     EXPECT_EQ(CountPixels(image, QRect(201, 201, 18, 8), RGB(0, 0, 0)), 0);
 }
+
+TEST_F(DrawingTest, AWidthInTheDescriptionStretchesTheFont) {
+    std::unique_ptr<CDC> dc(CreateDCA("DISPLAY", nullptr, nullptr, nullptr));
+    LOGFONTA lf = Font("Courier New", -20);
+    CFont natural;
+    natural.CreateFontIndirect(&lf);
+    dc->SelectObject(&natural);
+    int w = dc->GetTextExtent("x", 1).cx;
+    lf.lfWidth = 2 * w;
+    CFont wide;
+    wide.CreateFontIndirect(&lf);
+    dc->SelectObject(&wide);
+    EXPECT_NEAR(dc->GetTextExtent("x", 1).cx, 2 * w, 2);
+    TEXTMETRICA tm;
+    dc->GetTextMetrics(&tm);
+    EXPECT_NEAR(tm.tmAveCharWidth, 2 * w, 2);
+}

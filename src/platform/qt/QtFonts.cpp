@@ -54,6 +54,11 @@ QFont CQtFonts::MakeQFont(const LOGFONTA& lf) {
         int cell = fm.ascent() + fm.descent();
         if (cell > px) font.setPixelSize(std::max(1, px * px / cell));
     }
+    // A width asks for that average character width: stretch to it.
+    if (lf.lfWidth > 0) {
+        int natural = std::max(1, QFontMetrics(font).averageCharWidth());
+        font.setStretch(std::clamp(static_cast<int>(lf.lfWidth) * 100 / natural, 1, 4000));
+    }
     return font;
 }
 
