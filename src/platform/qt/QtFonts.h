@@ -1,9 +1,10 @@
 // Real fonts for font descriptions. A LOGFONTA becomes a QFont (family,
-// pixel height, weight, italic, underline, strike-out, kerning off) and a
-// QRawFont, and its metrics are read once: every byte gets an integer
-// advance, so widths are additive and text is drawn glyph by glyph at those
-// same advances. Fixed-pitch requests and the desktop's fixed faces map to
-// "DejaVu Sans Mono", its usual proportional faces to "DejaVu Sans".
+// pixel height, width as a stretch, weight, italic, underline, strike-out,
+// kerning off) and a QRawFont, and its metrics are read once: every byte
+// gets an integer advance, so widths are additive and text is drawn glyph
+// by glyph at those same advances. Fixed-pitch requests and the desktop's
+// fixed faces map to "DejaVu Sans Mono", its usual proportional faces to
+// "DejaVu Sans".
 #pragma once
 
 #include <QFont>
