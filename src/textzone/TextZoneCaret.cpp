@@ -171,9 +171,11 @@ LONG CTextZone::GetLinePosition(int nLine) {
         long long y = static_cast<long long>(nLine) * m_nLineHeight;
         return static_cast<LONG>(std::clamp<long long>(y, INT_MIN, INT_MAX));
     }
-    // Lines hidden in a closed block take no room.
-    long long y = 0;
-    for (int n = 0; n < nLine && y < INT_MAX; ++n)
+    // Lines hidden in a closed block take no room; below the text every
+    // place is a line high, so only the lines of the text are walked.
+    const int stop = std::min(nLine, GetLastLineIndex() + 1);
+    long long y = static_cast<long long>(nLine - stop) * m_nLineHeight;
+    for (int n = 0; n < stop; ++n)
         y += GetLineHeight(n);
     return static_cast<LONG>(std::min<long long>(y, INT_MAX));
 }

@@ -418,7 +418,11 @@ TEST_F(CaretScrollTest, HiddenLinesTakeNoRoom) {
 
     Peer().ClearInvalidations();
     m_zone.RedrawLines(5, 5, 0);
+    m_zone.RedrawLines(6, 0x7FFFFFF0, 0);  // far below the text, without a walk there
+    ASSERT_EQ(Peer().GetInvalidations().size(), 2u);
     EXPECT_EQ(Box(Peer().GetInvalidations()[0].rcBox), "0,32,400,48");
+    EXPECT_EQ(Box(Peer().GetInvalidations()[1].rcBox), "0,48,400,300");
+    EXPECT_EQ(m_zone.GetLinePosition(45), (37 + 5) * 16);
 
     // Line scrolls pass over hidden lines, both ways, moving only real rows.
     VScroll(SB_LINEDOWN);
