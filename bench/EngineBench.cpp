@@ -1,0 +1,281 @@
+// The engine on its own, headless: loading, reading out, editing, typing,
+// undo and find on generated SQL text, and the line split with memchr that
+// bounds any load from below. Painting is measured with the peers, through
+// the Qt backend, since the headless backend only records what it is asked
+// to draw.
+//   bench_engine [Google Benchmark flags]
+//   bench_engine --memory LINES     peak memory of a load, as one JSON line
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+#include <string>
+
+#include "SqlText.h"
+#include "platform/Font.h"
+#include "platform/Messages.h"
+#include "platform/Wnd.h"
+#include "platform/headless/HeadlessFonts.h"
+#include "platform/headless/HeadlessPlatform.h"
+#include "textzone/TextZone.h"
+
+namespace {
+
+// The window every zone lives in: 800 x 600, like the peers' widgets.
+constexpr RECT kWindow{0, 0, 800, 600};
+
+// A zone in a headless window, with a fixed font of 16 pixels.
+struct EngineDoc {
+    EngineDoc() {
+        wnd.Create(WS_VISIBLE, kWindow, nullptr, 1);
+        LOGFONTA lf = CHeadlessFonts::MakeFont(CHeadlessFonts::kFixedFace, 16);
+        font.CreateFontIndirect(&lf);
+        zone.SetWindow(&wnd);
+        RECT client;
+        wnd.GetClientRect(&client);
+        zone.SetRect(&client);
+        zone.SetFont(font);
+    }
+    ~EngineDoc() {
+        zone.HideCaret();
+        wnd.DestroyWindow();
+    }
+    EngineDoc(const EngineDoc&) = delete;
+    EngineDoc& operator=(const EngineDoc&) = delete;
+
+    int LineLength(int nLine) {
+        CStringEx* pLine = zone.GetLine(nLine);
+        return pLine ? pLine->GetLength() : -1;
+    }
+    void PlaceCaret(int nLine, int nChar) { zone.SetSelection(nLine, nLine, nChar, nChar, 0, 0); }
+
+    CWnd wnd;
+    CFont font;
+    CTextZone zone;
+};
+
+// The text of the last size asked for, made once per size.
+const std::string& Text(int nLines) {
+    static std::string text;
+    static int made = -1;
+    if (made != nLines) {
+        text.clear();
+        text.shrink_to_fit();
+        text = bench::MakeSqlText(nLines);
+        made = nLines;
+    }
+    return text;
+}
+
+// A loaded zone of the size, kept between benchmarks: every task leaves the
+// text as it found it, and loading 10M lines each time would cost more than
+// the tasks themselves.
+EngineDoc& LoadedDoc(int nLines) {
+    static std::unique_ptr<EngineDoc> doc;
+    static int loaded = -1;
+    if (loaded != nLines) {
+        doc.reset();
+        doc = std::make_unique<EngineDoc>();
+        doc->zone.SetText(Text(nLines).c_str());
+        loaded = nLines;
+    }
+    return *doc;
+}
+
+template <class F>
+double Seconds(F&& f) {
+    const auto t0 = std::chrono::steady_clock::now();
+    f();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count();
+}
+
+void BM_Split(benchmark::State& state) {
+    const std::string& text = Text(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        const char* p = text.data();
+        const char* end = p + text.size();
+        long lines = 0;
+        while (const void* q = std::memchr(p, '\n', static_cast<size_t>(end - p))) {
+            p = static_cast<const char*>(q) + 1;
+            ++lines;
+        }
+        benchmark::DoNotOptimize(lines);
+    }
+}
+
+void BM_Load(benchmark::State& state) {
+    const std::string& text = Text(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        auto doc = std::make_unique<EngineDoc>();
+        state.SetIterationTime(Seconds([&] { doc->zone.SetText(text.c_str()); }));
+    }
+}
+
+void BM_GetText(benchmark::State& state) {
+    EngineDoc& doc = LoadedDoc(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        std::string out;
+        state.SetIterationTime(Seconds([&] {
+            out.resize(static_cast<size_t>(doc.zone.GetTextLength(TF_LF)) + 2);
+            doc.zone.GetText(out.data(), static_cast<LONG>(out.size()), TF_LF);
+        }));
+        benchmark::DoNotOptimize(out.data());
+    }
+}
+
+// An edit as a host makes one: one undo operation around the change.
+void Edit(CTextZone& zone, short wKind, const char* pszInsert) {
+    zone.SetModify(1);
+    zone.StartRegister(wKind);
+    if (pszInsert)
+        zone.InsertText(pszInsert, 0, 1, 1);
+    else
+        zone.DeleteSelection(1);
+    zone.EndRegister();
+}
+
+void BM_InsertRemoveLine(benchmark::State& state) {
+    const int nLines = static_cast<int>(state.range(0));
+    EngineDoc& doc = LoadedDoc(nLines);
+    const int mid = bench::MiddleLine(nLines);
+    for (auto _ : state) {
+        state.SetIterationTime(Seconds([&] {
+            doc.PlaceCaret(mid, 0);
+            Edit(doc.zone, 6, bench::kInsertedLine);
+            doc.zone.SetSelection(mid, mid + 1, 0, 0, 0, 0);
+            Edit(doc.zone, 4, nullptr);
+        }));
+    }
+    if (doc.zone.GetLineCount() != nLines) state.SkipWithError("the line count changed");
+}
+
+void TypeAll(EngineDoc& doc) {
+    for (int i = 0; i < 100; ++i)
+        doc.zone.HandleChar(static_cast<unsigned char>(bench::kTyped[i]), 1, 0);
+}
+
+// Undoes until the line is back to its length; false when undo cannot.
+bool UndoTyping(EngineDoc& doc, int nLine, int nLength) {
+    for (int n = 0; n < 200 && doc.LineLength(nLine) != nLength; ++n) {
+        if (doc.zone.GetUndoType() == 0) return false;
+        doc.zone.Undo();
+    }
+    return doc.LineLength(nLine) == nLength;
+}
+
+void BM_Type(benchmark::State& state) {
+    const int nLines = static_cast<int>(state.range(0));
+    EngineDoc& doc = LoadedDoc(nLines);
+    const int mid = bench::MiddleLine(nLines);
+    const int length = doc.LineLength(mid);
+    for (auto _ : state) {
+        doc.PlaceCaret(mid, 0);
+        state.SetIterationTime(Seconds([&] { TypeAll(doc); }));
+        if (doc.LineLength(mid) != length + 100) {
+            state.SkipWithError("HandleChar did not type the characters");
+            break;
+        }
+        if (!UndoTyping(doc, mid, length)) {
+            state.SkipWithError("undo did not take the typing back");
+            break;
+        }
+    }
+}
+
+void BM_Undo(benchmark::State& state) {
+    const int nLines = static_cast<int>(state.range(0));
+    EngineDoc& doc = LoadedDoc(nLines);
+    const int mid = bench::MiddleLine(nLines);
+    const int length = doc.LineLength(mid);
+    for (auto _ : state) {
+        doc.PlaceCaret(mid, 0);
+        TypeAll(doc);
+        if (doc.LineLength(mid) != length + 100) {
+            state.SkipWithError("HandleChar did not type the characters");
+            break;
+        }
+        bool undone = false;
+        state.SetIterationTime(Seconds([&] { undone = UndoTyping(doc, mid, length); }));
+        if (!undone) {
+            state.SkipWithError("undo did not take the typing back");
+            break;
+        }
+    }
+}
+
+void BM_Find(benchmark::State& state) {
+    const int nLines = static_cast<int>(state.range(0));
+    EngineDoc& doc = LoadedDoc(nLines);
+    for (auto _ : state) {
+        doc.PlaceCaret(0, 0);
+        int found = 0;
+        state.SetIterationTime(
+            Seconds([&] { found = doc.zone.FindTextFromCurrentPos(bench::kNeedle, 1, 1); }));
+        if (!found || doc.zone.m_nSelStartLine != bench::FindLine(nLines)) {
+            state.SkipWithError("the word was not found on its line");
+            break;
+        }
+    }
+}
+
+// Sizes in the order the cached text and zone are reused: all tasks of one
+// size before the next. The 10M-line runs take fixed, few iterations.
+void Register() {
+    struct Task {
+        const char* name;
+        void (*fn)(benchmark::State&);
+        bool manual;
+        int hugeIterations;
+    };
+    const Task tasks[] = {
+        {"Split/memchr", BM_Split, false, 5},
+        {"Load/Textzone", BM_Load, true, 2},
+        {"GetText/Textzone", BM_GetText, true, 3},
+        {"InsertRemoveLine/Textzone", BM_InsertRemoveLine, true, 20},
+        {"Type/Textzone", BM_Type, true, 20},
+        {"Undo/Textzone", BM_Undo, true, 20},
+        {"Find/Textzone", BM_Find, true, 3},
+    };
+    for (int size : {bench::kSmall, bench::kLarge, bench::kHuge}) {
+        for (const Task& task : tasks) {
+            auto* b = benchmark::RegisterBenchmark(task.name, task.fn)->Arg(size);
+            b->Unit(benchmark::kMillisecond);
+            if (task.manual) b->UseManualTime();
+            if (size == bench::kHuge) b->Iterations(task.hugeIterations);
+        }
+    }
+}
+
+// One load in a fresh process: the high-water mark of the resident set over
+// the load, less what was resident before it (the source text included),
+// per line.
+int MeasureMemory(int nLines) {
+    const std::string text = bench::MakeSqlText(nLines);
+    const bool reset = bench::ResetPeak();
+    const bench::MemoryFigures before = bench::ReadMemory();
+    EngineDoc doc;
+    doc.zone.SetText(text.c_str());
+    const bench::MemoryFigures after = bench::ReadMemory();
+    const double peak = static_cast<double>(after.peak - (reset ? before.rss : before.peak));
+    const double resident = static_cast<double>(after.rss) - static_cast<double>(before.rss);
+    std::printf(
+        "{\"component\": \"Textzone\", \"lines\": %d, \"peak_bytes_per_line\": %.1f, "
+        "\"resident_bytes_per_line\": %.1f, \"peak_reset\": %s}\n",
+        nLines, peak / nLines, resident / nLines, reset ? "true" : "false");
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    CHeadlessPlatform platform;
+    if (argc == 3 && std::strcmp(argv[1], "--memory") == 0) return MeasureMemory(std::atoi(argv[2]));
+    Register();
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
