@@ -25,6 +25,8 @@ TASKS = [
     ("InsertRemoveLine", "Insert and remove a line in the middle"),
     ("Type", "Type 100 characters in the middle, one key at a time"),
     ("Undo", "Undo the 100 characters"),
+    ("TypeApi", "Type 100 characters in the middle, one insert call each"),
+    ("UndoApi", "Undo the 100 inserted characters"),
     ("Find", "Find a word near the end"),
     ("Paint", "Paint one screen (800 x 600)"),
 ]
@@ -53,7 +55,9 @@ def fmt_ratio(r):
         return "%.0f×" % r
     if r >= 10:
         return "%.1f×" % r
-    return "%.2f×" % r
+    if r >= 0.01:
+        return "%.2f×" % r
+    return "%.2g×" % r
 
 
 def load_runs(paths):
