@@ -234,6 +234,33 @@ TEST_F(KeyEditTest, AClosedBlockCannotBeSplitOrJoined) {
     EXPECT_EQ(Line(1), "hd\r");
 }
 
+TEST_F(KeyEditTest, EnterOnTheHeadOfAClosedBlockIsRefused) {
+    m_zone.SetStyle(ZS_VARHEIGHT);
+    m_zone.SetText("head\rin1\rtail\r");
+    ASSERT_EQ(m_zone.SetEditBlock(0, 2), 1);
+    ASSERT_EQ(m_zone.CloseBlock(0, 1), 1);
+    Caret(0, 4);
+    Press(VK_RETURN);
+    EXPECT_EQ(CrText(), "head\rin1\rtail\r");
+    EXPECT_EQ(m_platform.GetBeepCount(), 1);
+    m_zone.OpenBlock(0, 1);
+    Press(VK_RETURN);
+    EXPECT_EQ(CrText(), "head\r\rin1\rtail\r");
+}
+
+TEST_F(KeyEditTest, CtrlUChangesCaseUnlessReadOnly) {
+    m_zone.SetText("Mixed Case\r");
+    m_zone.SetSelection(0, 0, 0, 5, 0, 0);
+    Press('U', kCtrl);
+    EXPECT_EQ(CrText(), "mixed Case\r");
+    m_zone.SetSelection(0, 0, 0, 10, 0, 0);
+    Press('U', kCtrl | kShift);
+    EXPECT_EQ(CrText(), "MIXED CASE\r");
+    m_zone.SetReadOnly(1);
+    Press('U', kCtrl);
+    EXPECT_EQ(CrText(), "MIXED CASE\r");
+}
+
 TEST_F(KeyEditTest, BackspaceAndDeleteJoinLinesAndUndoBringsBackTheBookmarks) {
     m_zone.SetText("ab\rcd\r");
     Bookmarks(0) = 1;

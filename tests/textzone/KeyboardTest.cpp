@@ -305,3 +305,23 @@ TEST_F(KeyboardTest, KeysWaitWhileTheLeftButtonIsDown) {
     m_platform.SetKeyState(VK_LBUTTON, false);
     m_zone.m_nDragState = 0;
 }
+
+TEST_F(KeyboardTest, CtrlNumMinusAndPlusCloseAndOpenTheBlockUnderTheCaret) {
+    m_zone.SetStyle(ZS_VARHEIGHT);
+    m_zone.SetText("head\rin1\rin2\rtail\r");
+    m_zone.SetBlockMode(1);
+    ASSERT_EQ(m_zone.SetEditBlock(0, 3), 1);
+    Caret(0, 2);
+    Press(VK_SUBTRACT);  // without Ctrl it is only a character
+    EXPECT_EQ(Flags(1), 0u);
+    Press(VK_SUBTRACT, kCtrl);
+    EXPECT_EQ(Flags(1), 4u);
+    EXPECT_EQ(Flags(2), 4u);
+    Press(VK_DOWN);
+    ExpectCaret(3, 2);
+    Press(VK_UP);
+    Press(VK_ADD, kCtrl);
+    EXPECT_EQ(Flags(1), 0u);
+    Press(VK_DOWN);
+    ExpectCaret(1, 2);
+}
