@@ -64,7 +64,8 @@ COLORREF CTextZone::GetBookmarkColor(int nIndex) {
 }
 
 void CTextZone::SetBookmarkColor(COLORREF cr, int nIndex) {
-    if (nIndex < 0 || nIndex >= kBookmarkKinds) return;
+    // The same colour again repaints nothing.
+    if (nIndex < 0 || nIndex >= kBookmarkKinds || m_crBookmark[nIndex] == cr) return;
     m_crBookmark[nIndex] = cr;
     RedrawLines(0, TZ_TO_END, 1);
 }

@@ -60,14 +60,6 @@ int CTextZone::IsFontProportionnal() {
     return m_bProportional;
 }
 
-void CTextZone::SetReservedTopLines(int nLines) {
-    m_nReservedTopLines = nLines;
-}
-
-int CTextZone::GetReservedTopLines() {
-    return m_nReservedTopLines;
-}
-
 void CTextZone::SetTabWidth(int nTabWidth) {
     m_nTabWidth = nTabWidth;
     if (m_pWnd) {

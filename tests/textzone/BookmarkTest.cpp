@@ -115,6 +115,7 @@ TEST_F(BookmarkTest, HostBitsColoursAndImages) {
     zone.m_redraws.clear();
     zone.SetBookmarkColor(RGB(1, 2, 3), 15);
     EXPECT_EQ(zone.GetBookmarkColor(15), RGB(1, 2, 3));
+    zone.SetBookmarkColor(RGB(1, 2, 3), 15);  // the same again: no repaint
     EXPECT_EQ(zone.m_redraws, (std::vector<std::pair<int, int>>{{0, TZ_TO_END}}));
     COLORREF before = zone.GetBookmarkColor(0);
     zone.SetBookmarkColor(RGB(9, 9, 9), 16);
