@@ -254,6 +254,7 @@ TEST_F(KeyboardTest, PagesCountStoredLinesAndStopBehindTheText) {
     Caret(0, 4);
     Press(VK_NEXT);
     ExpectCaret(17, 4);
+    EXPECT_EQ(m_zone.GetVScrollOffset(), 17 * 16);  // the view went a page down too
     Flags(20) = 4;  // hidden lines are counted, not skipped
     Press(VK_NEXT);
     ExpectCaret(34, 4);
@@ -261,6 +262,7 @@ TEST_F(KeyboardTest, PagesCountStoredLinesAndStopBehindTheText) {
     ExpectCaret(40, 4);
     Press(VK_PRIOR);
     ExpectCaret(23, 4);
+    EXPECT_EQ(m_zone.GetVScrollOffset(), 22 * 16);
 
     Caret(5, 2);
     Press(VK_PRIOR, kShift);
