@@ -106,8 +106,8 @@ void CTextZone::KeyBackDelete(int bBackspace) {
     }
     if (!bBackspace && pLine) {
         const int raw = pLine->GetLength();
-        const bool joins = ch == raw - 1 ||
-                           (ch >= raw && pLine->IsEnded() && (m_dwStyle & ZS_FREECARET));
+        const bool joins =
+            ch == raw - 1 || (ch >= raw && pLine->IsEnded() && (m_dwStyle & ZS_FREECARET));
         CStringEx* pNext = GetLine(line + 1);
         if (joins && pNext && pNext->m_dwBlockFlags) return;
     }
@@ -329,8 +329,7 @@ void CTextZone::KeyTab(int bShift) {
             EndRegister();
             last = m_nSelEndLine;
         }
-    } else if (TestSelection() && m_nSelStartLine < m_nSelEndLine &&
-               (m_dwStyle & ZS_AUTOINDENT)) {
+    } else if (TestSelection() && m_nSelStartLine < m_nSelEndLine && (m_dwStyle & ZS_AUTOINDENT)) {
         // Whole lines are shifted; columns need every byte equally wide.
         if (m_nSelectionMode != 2 && T != 0 && !IsFontProportionnal()) {
             m_nSelStartChar = 0;
@@ -346,7 +345,8 @@ void CTextZone::KeyTab(int bShift) {
             last = endLine;
             if (!bShift) {
                 if (!WouldPassLength(*this, lines)) {
-                    std::string piece = GetTabConvert() ? std::string(static_cast<size_t>(T), ' ') : "\t";
+                    std::string piece =
+                        GetTabConvert() ? std::string(static_cast<size_t>(T), ' ') : "\t";
                     piece += '\r';
                     std::string text;
                     for (int i = 0; i < lines; ++i)

@@ -51,7 +51,8 @@ void CTextZone::HandleKeyDown(UINT nChar, UINT, UINT) {
             break;
         case VK_UP:
         case VK_DOWN:
-            if (ctrl && m_pWnd) m_pWnd->SendMessage(WM_VSCROLL, nChar == VK_UP ? SB_LINEUP : SB_LINEDOWN, 0);
+            if (ctrl && m_pWnd)
+                m_pWnd->SendMessage(WM_VSCROLL, nChar == VK_UP ? SB_LINEUP : SB_LINEDOWN, 0);
             KeyMoveVertical(nChar == VK_DOWN, shift);
             break;
         case VK_PRIOR:
