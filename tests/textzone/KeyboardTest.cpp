@@ -255,7 +255,8 @@ TEST_F(KeyboardTest, PagesCountStoredLinesAndStopBehindTheText) {
     Press(VK_NEXT);
     ExpectCaret(17, 4);
     EXPECT_EQ(m_zone.GetVScrollOffset(), 17 * 16);  // the view went a page down too
-    Flags(20) = 4;                                  // hidden lines are counted, not skipped
+    // Hidden lines are counted, not skipped.
+    Flags(20) = 4;
     Press(VK_NEXT);
     ExpectCaret(34, 4);
     Press(VK_NEXT);
