@@ -8,6 +8,51 @@
 #include "platform/Messages.h"
 #include "platform/Platform.h"
 
+namespace {
+
+// Windows without a parent, for finding the window under a point.
+std::vector<CWnd*>& TopLevelWindows() {
+    static std::vector<CWnd*> windows;
+    return windows;
+}
+
+bool WindowHolds(const CWnd* pWnd, POINT ptScreen) {
+    RECT rc;
+    pWnd->GetWindowRect(&rc);
+    return pWnd->IsWindowVisible() && ptScreen.x >= rc.left && ptScreen.x < rc.right &&
+           ptScreen.y >= rc.top && ptScreen.y < rc.bottom;
+}
+
+}  // namespace
+
+CWnd* WindowFromPoint(POINT ptScreen) {
+    const auto& windows = TopLevelWindows();
+    // The newest window is taken to lie on top.
+    for (auto it = windows.rbegin(); it != windows.rend(); ++it) {
+        if (!WindowHolds(*it, ptScreen)) continue;
+        CWnd* pWnd = *it;
+        for (;;) {
+            POINT pt = ptScreen;
+            pWnd->ScreenToClient(&pt);
+            CWnd* pChild = pWnd->ChildWindowFromPoint(pt);
+            if (!pChild || pChild == pWnd) return pWnd;
+            pWnd = pChild;
+        }
+    }
+    return nullptr;
+}
+
+CWnd* CWnd::ChildWindowFromPoint(POINT pt) const {
+    POINT screen = pt;
+    ClientToScreen(&screen);
+    for (auto it = m_children.rbegin(); it != m_children.rend(); ++it)
+        if (WindowHolds(*it, screen)) return *it;
+    RECT rc;
+    GetClientRect(&rc);
+    bool inside = pt.x >= rc.left && pt.x < rc.right && pt.y >= rc.top && pt.y < rc.bottom;
+    return inside ? const_cast<CWnd*>(this) : nullptr;
+}
+
 CWnd::CWnd() {
     for (int i = 0; i < 3; ++i) {
         SCROLLINFO& si = m_bars[i].si;
@@ -37,7 +82,10 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, const char* lpszClassName, const char* lpsz
     m_nID = nID;
     m_strText = lpszWindowName ? lpszWindowName : "";
     m_pParent = pParentWnd;
-    if (m_pParent) m_pParent->m_children.push_back(this);
+    if (m_pParent)
+        m_pParent->m_children.push_back(this);
+    else
+        TopLevelWindows().push_back(this);
 
     CREATESTRUCTA cs;
     cs.lpCreateParams = lpParam;
@@ -83,6 +131,8 @@ BOOL CWnd::DestroyWindow() {
 }
 
 void CWnd::DetachFromParent() {
+    auto& windows = TopLevelWindows();
+    windows.erase(std::remove(windows.begin(), windows.end(), this), windows.end());
     if (m_pParent) {
         auto& siblings = m_pParent->m_children;
         siblings.erase(std::remove(siblings.begin(), siblings.end(), this), siblings.end());

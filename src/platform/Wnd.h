@@ -36,6 +36,10 @@ struct PAINTSTRUCT {
     RECT rcPaint;
 };
 
+class CWnd;
+// The deepest visible window of this process under a point of the screen.
+CWnd* WindowFromPoint(POINT ptScreen);
+
 class CWnd {
 public:
     CWnd();
@@ -91,6 +95,9 @@ public:
     void ClientToScreen(RECT* prc) const;
     void ScreenToClient(POINT* ppt) const;
     void ScreenToClient(RECT* prc) const;
+    // The direct child, visible, whose window holds a point of the client
+    // area; this window itself when none does, null when the point is outside.
+    CWnd* ChildWindowFromPoint(POINT pt) const;
 
     // Invalidation and painting. The invalid region is clipped to the client
     // area; UpdateWindow sends WM_PAINT at once when it is not empty.
