@@ -18,16 +18,18 @@ public:
         m_scrolls.push_back({'H', nSBCode});
         CTestZone::HandleHScroll(nSBCode, nPos, pScrollBar);
     }
-    // The lines' block bits are set by hand here, so the real toggles have
-    // no blocks to work on: only the calls are of interest.
-    int OpenBlock(int nLine, int) override {
+    // Where the lines' block bits are set by hand there are no blocks for
+    // the real toggles to work on: only the calls are of interest then.
+    int OpenBlock(int nLine, int bUpdate) override {
         m_toggles.push_back("open " + std::to_string(nLine));
-        return 1;
+        return m_bRealBlocks ? CTestZone::OpenBlock(nLine, bUpdate) : 1;
     }
-    int CloseBlock(int nLine, int) override {
+    int CloseBlock(int nLine, int bUpdate) override {
         m_toggles.push_back("close " + std::to_string(nLine));
-        return 1;
+        return m_bRealBlocks ? CTestZone::CloseBlock(nLine, bUpdate) : 1;
     }
+
+    bool m_bRealBlocks = false;
 
     std::vector<std::pair<char, UINT>> m_scrolls;
     std::vector<std::string> m_toggles;
@@ -265,6 +267,23 @@ TEST_F(MouseTest, APressOnABlockMarkInTheMarginTogglesTheBlock) {
     m_platform.SetKeyState(VK_SHIFT, false);
     EXPECT_TRUE(m_zone.m_toggles.empty());
     Up(POINT{10, 8});
+}
+
+TEST_F(MouseTest, ClicksOnTheMarkCloseAndReopenARealBlock) {
+    ASSERT_TRUE(m_zone.SetText("0\r\n1\r\n2\r\n3\r\n4\r\n"));
+    m_zone.m_bRealBlocks = true;
+    m_zone.SetMarginMode(1);
+    ASSERT_EQ(m_zone.SetEditBlock(1, 3), 1);
+    Down(POINT{12, 24});
+    Up(POINT{12, 24});
+    EXPECT_EQ(m_zone.GetLine(1)->m_dwBlockFlags, 2u);
+    EXPECT_EQ(m_zone.GetLineHeight(2), 0);
+    ExpectSelection(1, 0, 1, 0);
+    Down(POINT{12, 24});
+    Up(POINT{12, 24});
+    EXPECT_EQ(m_zone.GetLine(1)->m_dwBlockFlags, 1u);
+    EXPECT_EQ(m_zone.GetLineHeight(2), 16);
+    EXPECT_EQ(Text(), "0\r\n1\r\n2\r\n3\r\n4\r\n");
 }
 
 TEST_F(MouseTest, DraggingSelectedTextMovesItAsOneUndoStep) {
