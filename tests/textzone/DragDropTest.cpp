@@ -2,8 +2,10 @@
 #include <string>
 #include <vector>
 
+#include "editor/Editor.h"
 #include "platform/OleDataObject.h"
 #include "platform/OleDropTarget.h"
+#include "platform/headless/HeadlessFonts.h"
 #include "support/ZoneTest.h"
 
 namespace {
@@ -246,4 +248,87 @@ TEST_F(DragDropTest, APressOffTheSelectionSelectsAndAHoverOutsideScrolls) {
     m_zone.HandleOleMouseMove(0, &pt);
     ASSERT_EQ(m_platform.GetPostedMessages().size(), 1u);
     EXPECT_EQ(m_platform.GetPostedMessages()[0].message, WM_MOUSEMOVE);
+}
+
+namespace {
+
+// The same through two editor controls, from the messages on: the press,
+// the drag, the drop and the re-posted moves of auto-scroll.
+class CFontParent : public CRecordingWnd {
+public:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_GETFONT) return reinterpret_cast<LRESULT>(m_hFont);
+        return CRecordingWnd::WindowProc(message, wParam, lParam);
+    }
+    HFONT m_hFont = nullptr;
+};
+
+class EditorDragDropTest : public HeadlessTest {
+protected:
+    void SetUp() override {
+        HeadlessTest::SetUp();
+        LOGFONTA lf = CHeadlessFonts::MakeFont(CHeadlessFonts::kFixedFace, 16);
+        m_font.CreateFontIndirect(&lf);
+        m_parent.m_hFont = m_font;
+        ASSERT_TRUE(m_parent.Create(WS_VISIBLE, RECT{0, 0, 900, 400}, nullptr, 0));
+        for (CEditor* editor : {&m_a, &m_b}) {
+            editor->SetOleDataSource(true);
+            editor->SetOleDropTarget(true);
+        }
+        ASSERT_TRUE(m_a.Create(WS_VISIBLE | WS_CHILD, RECT{10, 10, 410, 310}, &m_parent, 1));
+        ASSERT_TRUE(m_b.Create(WS_VISIBLE | WS_CHILD, RECT{450, 10, 850, 310}, &m_parent, 2));
+    }
+    void TearDown() override {
+        m_a.DestroyWindow();
+        m_b.DestroyWindow();
+        m_parent.DestroyWindow();
+        HeadlessTest::TearDown();
+    }
+    static POINT At(CEditor& editor, int nLine, int nChar) {
+        const RECT& rc = editor.GetZone()->m_rcText;
+        return POINT{rc.left + nChar * 8, rc.top + nLine * 16 + 8};
+    }
+    static LPARAM Lp(POINT pt) { return MAKELPARAM(pt.x, pt.y); }
+    // The first line of an editor's text.
+    static std::string Text(CEditor& editor) {
+        CStringEx* pLine = editor.GetZone()->GetLine(0);
+        return pLine ? pLine->c_str() : "";
+    }
+
+    CFont m_font;
+    CFontParent m_parent;
+    CEditor m_a;
+    CEditor m_b;
+};
+
+}  // namespace
+
+TEST_F(EditorDragDropTest, TextMovesBetweenEditorsAndAutoScrollKeepsItselfGoing) {
+    m_a.SetWindowTextA("one two three");
+    m_b.SetWindowTextA("abc");
+    m_a.SetSel(4, 8);
+    POINT target = At(m_b, 0, 1);
+    m_platform.SetDragHandler([&](CWnd*, const std::string& text, DWORD) {
+        return m_platform.SimulateDrop(&m_b, text, 0, target);
+    });
+    m_a.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, Lp(At(m_a, 0, 5)));
+    m_a.SendMessage(WM_LBUTTONUP, 0, Lp(At(m_a, 0, 5)));
+    EXPECT_EQ(Text(m_a), "one three");
+    EXPECT_EQ(Text(m_b), "atwo bc");
+    EXPECT_EQ(m_a.GetZone()->m_bOleDragSource, 0);
+
+    // Held below the text, the move comes back through the window's queue
+    // until the button is let go.
+    m_platform.SetDragHandler(nullptr);
+    m_a.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, Lp(At(m_a, 0, 1)));
+    m_a.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(40, 330));
+    EXPECT_EQ(m_platform.PumpMessages(3), 3);
+    std::vector<MSG> posted = m_platform.GetPostedMessages();
+    ASSERT_EQ(posted.size(), 1u);
+    EXPECT_EQ(posted[0].hwnd, &m_a);
+    EXPECT_EQ(posted[0].message, WM_MOUSEMOVE);
+    m_a.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(40, 330));
+    EXPECT_EQ(CWnd::GetCapture(), nullptr);
+    m_platform.PumpMessages(10);
+    EXPECT_TRUE(m_platform.GetPostedMessages().empty());
 }
