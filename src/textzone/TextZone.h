@@ -240,7 +240,7 @@ protected:
         return (m_dwStyle & ZS_PARAGRAPH) ? TZ_MAX_PARAGRAPH_LINE : TZ_MAX_LINE_LENGTH;
     }
 
-    // Mouse and drag helpers (TextZoneMouse.cpp).
+    // Mouse and drag helpers (TextZoneMouse.cpp, TextZoneHitTest.cpp).
     // The line under a point, at most the place behind the text.
     int GetLineUnderPoint(POINT* pt);
     // The column under a point on a line's space-equivalent copy padded far
