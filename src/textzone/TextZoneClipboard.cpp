@@ -73,12 +73,14 @@ int CTextZone::Paste() {
         const int endLine = m_nSelEndLine;
         const int column = m_nSelStartChar;
         const LONG lines = endLine - startLine + 1;
-        if (m_lMaxLength <= 0 || lines * n + m_nCurrentLength <= m_lMaxLength) {
+        // Reckoned wide: a long text on many lines passes any 32-bit limit.
+        if (m_lMaxLength <= 0 ||
+            static_cast<long long>(lines) * n + m_nCurrentLength <= m_lMaxLength) {
             SetModify(1);
             StartRegister(1);
             HideCaret();
             std::string all;
-            all.reserve(static_cast<size_t>(lines * (n + 1)));
+            all.reserve(static_cast<size_t>(lines) * (static_cast<size_t>(n) + 1));
             for (LONG i = 0; i < lines; ++i) {
                 all += text;
                 all += '\r';
@@ -94,7 +96,8 @@ int CTextZone::Paste() {
         // Too long for every line: perhaps it fits once.
     }
 
-    if (m_lMaxLength > 0 && m_nCurrentLength + n - GetSelectedTextLength(0) > m_lMaxLength) {
+    if (m_lMaxLength > 0 &&
+        static_cast<long long>(m_nCurrentLength) + n - GetSelectedTextLength(0) > m_lMaxLength) {
         OnTextTooLong();
         return 1;
     }
