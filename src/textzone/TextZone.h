@@ -235,6 +235,16 @@ protected:
     // beyond its text.
     int BoxX(CDC* pDC, const CStringEx& line, int nCount);
 
+    // Scrolling and painting helpers.
+    // Moves the pixels of the text rectangle, re-invalidating pending paints
+    // at their moved place and what the move uncovers.
+    void ScrollTextRect(int dx, int dy);
+    // Paints what is pending when a host asked for it before the next scroll.
+    void FlushPendingPaint();
+    // Window x of the place behind nIndex bytes of a line, or of its
+    // space-equivalent copy, padded with spaces beyond the text.
+    int CaretX(CDC* pDC, int nLine, int nIndex, bool bColumns);
+
     // The line limit in force: 65500 bytes, 65536 with ZS_PARAGRAPH.
     int GetLineLimit() const {
         return (m_dwStyle & ZS_PARAGRAPH) ? TZ_MAX_PARAGRAPH_LINE : TZ_MAX_LINE_LENGTH;

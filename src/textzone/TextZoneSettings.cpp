@@ -60,14 +60,6 @@ int CTextZone::IsFontProportionnal() {
     return m_bProportional;
 }
 
-void CTextZone::SetReservedTopLines(int nLines) {
-    m_nReservedTopLines = nLines;
-}
-
-int CTextZone::GetReservedTopLines() {
-    return m_nReservedTopLines;
-}
-
 void CTextZone::SetTabWidth(int nTabWidth) {
     m_nTabWidth = nTabWidth;
     if (m_pWnd) {
@@ -254,5 +246,7 @@ COLORREF CTextZone::GetBookmarkColor(int nIndex) {
 }
 
 void CTextZone::SetBookmarkColor(COLORREF cr, int nIndex) {
-    if (nIndex >= 0 && nIndex < 16) m_crBookmark[nIndex] = cr;
+    if (nIndex < 0 || nIndex >= 16 || m_crBookmark[nIndex] == cr) return;
+    m_crBookmark[nIndex] = cr;
+    RedrawLines(0, TZ_TO_END, 1);
 }
