@@ -1,0 +1,98 @@
+#include "apps/demo/DemoWindow.h"
+
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenuBar>
+#include <QPixmap>
+#include <QStatusBar>
+#include <string>
+
+#include "textzone/TextZone.h"
+
+CDemoWindow::CDemoWindow(QWidget* pParent) : QMainWindow(pParent) {
+    m_pEditor = new CQtEditorWidget(this);
+    setCentralWidget(m_pEditor);
+    m_pStatus = new QLabel(this);
+    statusBar()->addWidget(m_pStatus);
+
+    QMenu* pFile = menuBar()->addMenu("&File");
+    pFile->addAction("&Open...", QKeySequence::Open, [this] {
+        QString path = QFileDialog::getOpenFileName(this, "Open");
+        if (!path.isEmpty()) OpenFile(path);
+    });
+    pFile->addAction("&Save", QKeySequence::Save, [this] {
+        QString path = m_path;
+        if (path.isEmpty()) path = QFileDialog::getSaveFileName(this, "Save");
+        if (!path.isEmpty()) SaveFile(path);
+    });
+    pFile->addAction("Save &As...", QKeySequence::SaveAs, [this] {
+        QString path = QFileDialog::getSaveFileName(this, "Save As", m_path);
+        if (!path.isEmpty()) SaveFile(path);
+    });
+    pFile->addSeparator();
+    pFile->addAction("&Quit", QKeySequence::Quit, [this] { close(); });
+
+    m_pEditor->SetChangeHandler([this] { UpdateTitle(); });
+    // The control tells of changes, not of caret moves: the status line looks.
+    connect(&m_statusTimer, &QTimer::timeout, this, [this] { UpdateStatus(); });
+    m_statusTimer.start(100);
+    UpdateStatus();
+    UpdateTitle();
+}
+
+bool CDemoWindow::OpenFile(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) return false;
+    const QByteArray bytes = file.readAll();
+    m_bCrLf = bytes.contains("\r\n");
+    m_bFinalLineEnd = bytes.isEmpty() || bytes.endsWith('\n') || bytes.endsWith('\r');
+    // The text is 8-bit: a 0 byte would end it, so it becomes a blank.
+    std::string text(bytes.constData(), static_cast<size_t>(bytes.size()));
+    for (char& c : text)
+        if (c == 0) c = ' ';
+    m_pEditor->Editor().SetWindowTextA(text.c_str());
+    // A file opens at its top, the caret at its start.
+    m_pEditor->Editor().SetSel(0, 0);
+    m_path = path;
+    UpdateTitle();
+    UpdateStatus();
+    return true;
+}
+
+bool CDemoWindow::SaveFile(const QString& path) {
+    CTextZone& zone = m_pEditor->Zone();
+    WORD wFlags = m_bCrLf ? TF_CRLF : TF_LF;
+    if (!m_bFinalLineEnd) wFlags |= TF_NO_FINAL_END;
+    std::string buffer(static_cast<size_t>(zone.GetTextLength(wFlags)) + 2, '\0');
+    zone.GetText(buffer.data(), static_cast<LONG>(buffer.size()), wFlags);
+    buffer.resize(std::char_traits<char>::length(buffer.c_str()));
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) return false;
+    if (file.write(buffer.data(), static_cast<qint64>(buffer.size())) !=
+        static_cast<qint64>(buffer.size()))
+        return false;
+    m_path = path;
+    m_pEditor->Editor().SetModify(0);
+    UpdateTitle();
+    return true;
+}
+
+QString CDemoWindow::CaretText() {
+    CTextZone& zone = m_pEditor->Zone();
+    return QString("Ln %1, Col %2").arg(zone.GetSelMobileLine() + 1).arg(zone.GetSelMobileChar() + 1);
+}
+
+bool CDemoWindow::SaveScreenshot(const QString& path) {
+    return grab().save(path, "PNG");
+}
+
+void CDemoWindow::UpdateStatus() {
+    m_pStatus->setText(CaretText());
+}
+
+void CDemoWindow::UpdateTitle() {
+    QString name = m_path.isEmpty() ? QString("Untitled") : QFileInfo(m_path).fileName();
+    if (m_pEditor->Editor().GetModify()) name += " *";
+    setWindowTitle(name + " - Textzone demo");
+}

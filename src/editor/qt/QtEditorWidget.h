@@ -1,0 +1,44 @@
+// The editor control as a QWidget, for Qt hosts: it goes into layouts like
+// any widget, and tells the host of changes through a callback. Inside, a
+// host window stands in for the control's parent: it hears the control's
+// notifications and keeps the control as large as itself.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+
+#include "editor/Editor.h"
+#include "platform/Font.h"
+#include "platform/Messages.h"
+
+class CTextZone;
+
+class CQtEditorWidget : public QWidget {
+public:
+    // The control's window style; WS_CHILD and WS_VISIBLE are added. With a
+    // zone the control borrows it.
+    explicit CQtEditorWidget(QWidget* pParent = nullptr,
+                             DWORD dwStyle = WS_VSCROLL | WS_HSCROLL | WS_BORDER,
+                             CTextZone* pZone = nullptr);
+    ~CQtEditorWidget() override;
+
+    CEditor& Editor() { return m_editor; }
+    CTextZone& Zone() { return *m_editor.GetZone(); }
+    // Called after every user action that changed the text (EN_CHANGE).
+    void SetChangeHandler(std::function<void()> handler) { m_host.m_onChange = std::move(handler); }
+    // The font the control takes at its set-up; a fixed font by default.
+    void SetEditorFont(const LOGFONTA& lf);
+
+private:
+    class CHostWnd : public CWnd {
+    public:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+        CEditor* m_pEditor = nullptr;
+        HFONT m_hFont = nullptr;
+        std::function<void()> m_onChange;
+    };
+
+    CFont m_font;
+    CHostWnd m_host;
+    CEditor m_editor;
+};

@@ -1,0 +1,115 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QImage>
+#include <QMouseEvent>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "apps/demo/DemoWindow.h"
+#include "platform/qt/QtPlatform.h"
+#include "textzone/TextZone.h"
+
+namespace {
+
+class DemoTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        m_window.resize(640, 400);
+        m_window.show();
+        Pump();
+    }
+    static void Pump() {
+        for (int i = 0; i < 5; ++i)
+            QApplication::processEvents();
+    }
+    QWidget* EditorWidget() { return CQtPlatform::WidgetOf(&m_window.EditorWidget().Editor()); }
+    std::string Text() {
+        VESK::String text;
+        m_window.EditorWidget().Editor().GetWindowTextA(text);
+        return std::string(text.c_str());
+    }
+    QString Write(const QByteArray& bytes) {
+        QString path = m_dir.filePath("in.sql");
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        return path;
+    }
+    // A press, a move with the button held and a release, in the editor's widget.
+    void Drag(QPoint from, QPoint to) {
+        QWidget* widget = EditorWidget();
+        QMouseEvent press(QEvent::MouseButtonPress, from, widget->mapToGlobal(from),
+                          Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(widget, &press);
+        QMouseEvent move(QEvent::MouseMove, to, widget->mapToGlobal(to), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(widget, &move);
+        QMouseEvent release(QEvent::MouseButtonRelease, to, widget->mapToGlobal(to),
+                            Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(widget, &release);
+        Pump();
+    }
+
+    CQtPlatform m_platform;
+    CDemoWindow m_window;
+    QTemporaryDir m_dir;
+};
+
+}  // namespace
+
+TEST_F(DemoTest, FilesOpenAndSaveByteForByte) {
+    // CR LF line ends, bytes above 127 and no final line end all survive.
+    const QByteArray bytes("SELECT 'caf\xe9'\r\nFROM t\r\nWHERE x = 1");
+    ASSERT_TRUE(m_window.OpenFile(Write(bytes)));
+    EXPECT_EQ(Text(), "SELECT 'caf\xe9'\r\nFROM t\r\nWHERE x = 1\r\n");
+    EXPECT_EQ(m_window.CaretText().toStdString(), "Ln 1, Col 1");
+    QString out = m_dir.filePath("out.sql");
+    ASSERT_TRUE(m_window.SaveFile(out));
+    QFile saved(out);
+    ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
+    EXPECT_EQ(saved.readAll(), bytes);
+
+    ASSERT_TRUE(m_window.OpenFile(Write("a\nb\n")));
+    ASSERT_TRUE(m_window.SaveFile(out));
+    saved.close();
+    ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
+    EXPECT_EQ(saved.readAll(), QByteArray("a\nb\n"));
+    EXPECT_FALSE(m_window.OpenFile(m_dir.filePath("missing.sql")));
+}
+
+TEST_F(DemoTest, RealTypingAndMouseSelectionReachTheEditor) {
+    ASSERT_TRUE(m_window.OpenFile(Write("FROM t\r\n")));
+    QWidget* widget = EditorWidget();
+    ASSERT_NE(widget, nullptr);
+    widget->setFocus();
+    Pump();
+    QTest::keyClicks(widget, "SELECT * ");
+    Pump();
+    EXPECT_EQ(Text(), "SELECT * FROM t\r\n");
+    EXPECT_EQ(m_window.CaretText().toStdString(), "Ln 1, Col 10");
+
+    // A drag over the first line selects from where it began.
+    Drag(QPoint(5, 10), QPoint(200, 10));
+    LONG start = -1, end = -1;
+    m_window.EditorWidget().Editor().GetSelection(&start, &end, nullptr, nullptr, 1);
+    EXPECT_EQ(start, 0);
+    EXPECT_GT(end, 5);
+}
+
+TEST_F(DemoTest, TheScreenshotShowsTheText) {
+    ASSERT_TRUE(m_window.OpenFile(Write("SELECT 1\r\n")));
+    Pump();
+    QString path = m_dir.filePath("shot.png");
+    ASSERT_TRUE(m_window.SaveScreenshot(path));
+    QImage image(path);
+    ASSERT_FALSE(image.isNull());
+    EXPECT_EQ(image.width(), m_window.width());
+    // Dark text pixels stand on the white page.
+    int dark = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (qGray(image.pixel(x, y)) < 80) ++dark;
+    EXPECT_GT(dark, 50);
+}
