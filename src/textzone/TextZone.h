@@ -262,6 +262,27 @@ protected:
     // Moves (or copies) the selected text to a place, as one undo step.
     void DropSelectedText(int nLine, int nChar, bool bCopy);
 
+    // --- Key handling helpers (TextZoneKeyMoves.cpp, TextZoneKeyEdit.cpp,
+    // TextZoneChar.cpp) ---
+    // Several lines selected with no width: a tall caret that types on every line.
+    int IsBoxCaret();
+    void KeyMoveHorizontal(int bRight, int bWord, int bShift);
+    void KeyMoveVertical(int bDown, int bShift);
+    void KeyMovePage(int bDown, int bShift);
+    void KeyHomeEnd(int bEnd, int bCtrl, int bShift);
+    // Sets m_nGoalX from a place if it is unset; bSpaced measures columns.
+    void KeyGoalX(CDC* pDC, int nLine, int nChar, int bSpaced, int bPage);
+    int KeyIndexAtGoal(int nLine, int nChar);
+    void KeyBackDelete(int bBackspace);
+    void KeyReturn();
+    void KeyTab(int bShift);
+    void KeyNumberLines();
+    int KeyTabChars();
+    void KeySetTypingRoot();
+    CStringEx* KeyLineForTyping(int* pbCreated);
+    void KeyRewrapTyped(int nLine, int bCreated, int* pnFirst, int* pnLast);
+    // --- end of key handling helpers ---
+
 public:
     // The members, in the order of the class. Engine code and derived zones
     // read and write them directly where that is quicker.

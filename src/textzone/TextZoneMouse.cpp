@@ -2,13 +2,13 @@
 // mode, word selection, the block marks in the margin, and the drag of
 // selected text inside one zone.
 #include <algorithm>
-#include <cctype>
 #include <vector>
 
 #include "platform/DC.h"
 #include "platform/Messages.h"
 #include "platform/Platform.h"
 #include "platform/Wnd.h"
+#include "textzone/TextBytes.h"
 #include "textzone/TextZone.h"
 
 namespace {
@@ -21,12 +21,6 @@ POINT g_ptLastPress{0, 0};
 // The library's drag cursors.
 constexpr int kCopyDragCursor = 31;
 constexpr int kMoveDragCursor = 32;
-
-// Bytes that a double click takes as one word.
-bool IsWordByte(char c) {
-    auto u = static_cast<unsigned char>(c);
-    return u >= 128 || std::isalnum(u) || c == '#' || c == '@' || c == '_';
-}
 
 bool KeyDown(int nVirtKey) {
     return GetKeyState(nVirtKey) < 0;
@@ -283,11 +277,11 @@ void CTextZone::HandleLButtonDblClk(UINT, POINT* pt) {
     int index = std::min(GetCharIndexFromPoint(pLine, pt), end);
     SetSelectionMode(1);
 
-    while (index > 0 && IsWordByte((*pLine)[index - 1]))
+    while (index > 0 && textbytes::IsWordChar((*pLine)[index - 1]))
         --index;
     SetSelection(line, line, index, index, 0, 0);
     const int start = index;
-    while (index < pLine->GetLength() && IsWordByte((*pLine)[index]))
+    while (index < pLine->GetLength() && textbytes::IsWordChar((*pLine)[index]))
         ++index;
     // On a blank or punctuation the one byte is taken.
     if (index == start && index < end) ++index;

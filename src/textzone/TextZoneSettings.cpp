@@ -236,17 +236,3 @@ void CTextZone::SetBlockMode(int bBlockMode) {
 int CTextZone::IsBlockMode() const {
     return m_bBlockMode;
 }
-
-int CTextZone::GetBookmarkImageIndex(int nIndex) {
-    return nIndex <= 15 ? nIndex : 0;
-}
-
-COLORREF CTextZone::GetBookmarkColor(int nIndex) {
-    return nIndex >= 0 && nIndex < 16 ? m_crBookmark[nIndex] : 0;
-}
-
-void CTextZone::SetBookmarkColor(COLORREF cr, int nIndex) {
-    if (nIndex < 0 || nIndex >= 16 || m_crBookmark[nIndex] == cr) return;
-    m_crBookmark[nIndex] = cr;
-    RedrawLines(0, TZ_TO_END, 1);
-}

@@ -147,7 +147,7 @@ TEST_F(EditorTest, ClearLeavesAFullStopAndUndoMessagesReachTheHistory) {
     m_editor.GetZone()->EndRegister();
     EXPECT_EQ(Send(EM_CANUNDO), 1);
     EXPECT_EQ(Send(EM_UNDO), 1);
-    EXPECT_EQ(Text(), "\r\n");
+    EXPECT_EQ(Text(), "");
     Send(EM_EMPTYUNDOBUFFER);
     EXPECT_EQ(Send(EM_CANUNDO), 0);
 }

@@ -1,0 +1,137 @@
+// Typed characters, and the steps that typing shares with Enter and Tab:
+// where the undo range starts, the line made behind the text, and the
+// rewrap of a paragraph after the change.
+#include <algorithm>
+#include <string>
+
+#include "platform/Wnd.h"
+#include "textzone/TextBytes.h"
+#include "textzone/TextZone.h"
+
+using textbytes::PadText;
+
+void CTextZone::KeySetTypingRoot() {
+    // Wrapped lines may move under the typing; only an offset stays true.
+    if ((m_dwStyle & ZS_PARAGRAPH) && m_nSelectionMode == 1) {
+        GetSelection(&m_lSelRootOffset, nullptr, nullptr, nullptr, 1);
+    } else {
+        m_nSelRootLine = m_nSelStartLine;
+        m_nSelRootChar = m_nSelStartChar;
+    }
+}
+
+CStringEx* CTextZone::KeyLineForTyping(int* pbCreated) {
+    *pbCreated = 0;
+    const int line = m_nSelStartLine;
+    CStringEx* pLine = GetLine(line);
+    if (pLine) return pLine;
+    // Behind an unended last line: that line is ended first, so the new text
+    // starts a line of its own. Paragraphs do this in their rewrap.
+    if (line > 0 && !(m_dwStyle & ZS_PARAGRAPH)) {
+        CStringEx* pPrev = GetLine(line - 1);
+        if (pPrev && !pPrev->IsEnded()) {
+            m_nSelRootLine = line - 1;
+            m_nSelRootChar = pPrev->GetLength();
+            pPrev->EnsureEnded();
+            if (m_lMaxLength > 0) ++m_nCurrentLength;
+        }
+    }
+    pLine = InsertLine(line);
+    if (pLine) *pbCreated = 1;
+    return pLine;
+}
+
+void CTextZone::KeyRewrapTyped(int nLine, int bCreated, int* pnFirst, int* pnLast) {
+    *pnFirst = *pnLast = nLine;
+    int runFrom = nLine;
+    int prevLength = -1;
+    if ((m_dwStyle & ZS_PARAGRAPH) && nLine > 0) {
+        CStringEx* pPrev = GetLine(nLine - 1);
+        if (pPrev && !pPrev->IsEnded()) {
+            if (bCreated) {
+                // A line made behind a wrapped last line starts a paragraph.
+                pPrev->EnsureEnded();
+                if (m_lMaxLength > 0) ++m_nCurrentLength;
+            } else {
+                // What was typed may let a word flow back into the line above.
+                prevLength = pPrev->GetLength();
+                runFrom = nLine - 1;
+            }
+        }
+    }
+    int changed = 0;
+    const int done = ComputeParagraph(runFrom, &changed);
+    if (runFrom < nLine) {
+        CStringEx* pPrev = GetLine(runFrom);
+        if (pPrev && pPrev->GetLength() != prevLength) *pnFirst = runFrom;
+    }
+    *pnLast = changed ? TZ_TO_END : std::max(done, nLine);
+}
+
+void CTextZone::HandleChar(UINT nChar, UINT, UINT) {
+    if (nChar < 32 || nChar > 255 || m_bReadOnly) return;
+    const char c = static_cast<char>(nChar);
+    SetModify(1);
+    StartRegister(1);
+
+    if (IsBoxCaret()) {
+        // A tall caret types the character on each of its lines.
+        const int startLine = m_nSelStartLine;
+        const int lines = m_nSelEndLine - startLine + 1;
+        if (m_lMaxLength > 0 && m_nCurrentLength + lines > m_lMaxLength) {
+            OnTextTooLong();
+            EndRegister();
+            if (m_pWnd && m_pWnd->GetSafeHwnd()) m_pWnd->UpdateWindow();
+            return;
+        }
+        HideCaret();
+        std::string text;
+        for (int i = 0; i < lines; ++i) {
+            text += c;
+            text += '\r';
+        }
+        const int column = m_nSelStartChar;
+        const int rootAtEnd = m_nSelRootLine == m_nSelEndLine;
+        InsertText(text.c_str(), 0, 1, 1);
+        m_nSelStartLine = startLine;
+        m_nSelStartChar = m_nSelEndChar = m_nSelRootChar = column + 1;
+        m_nSelRootLine = rootAtEnd ? m_nSelEndLine : startLine;
+        EndRegister();
+        RedrawLines(startLine, m_nSelEndLine, 1);
+        DrawCaret(1, 1);
+        return;
+    }
+
+    DeleteSelection(0);
+    if (GetLastLineIndex() >= TZ_MAX_LINES ||
+        (m_lMaxLength > 0 && m_nCurrentLength >= m_lMaxLength)) {
+        OnTextTooLong();
+        EndRegister();
+        if (m_pWnd && m_pWnd->GetSafeHwnd()) m_pWnd->UpdateWindow();
+        return;
+    }
+    HideCaret();
+    KeySetTypingRoot();
+    int created = 0;
+    CStringEx* pLine = KeyLineForTyping(&created);
+    const int line = m_nSelStartLine;
+    int first = line;
+    int last = line;
+    if (pLine) {
+        const int ch = m_nSelStartChar;
+        PadText(*pLine, ch);
+        // A full line takes nothing more, silently.
+        if (pLine->GetLength() < GetLineLimit()) {
+            pLine->InsertChar(ch, c);
+            if (m_lMaxLength > 0) ++m_nCurrentLength;
+            m_nSelStartChar = m_nSelEndChar = ch + 1;
+            KeyRewrapTyped(line, created, &first, &last);
+            RegisterUnit(4);
+        }
+    }
+    EndRegister();
+    UpdateVScrollBar();
+    UpdateHScrollBar(first, last);
+    RedrawLines(first, last, 1);
+    DrawCaret(1, 1);
+}

@@ -1,0 +1,51 @@
+// Fixture for the keyboard tests: keys go in through HandleKeyDown with the
+// modifiers held on the headless platform, text through HandleChar.
+#pragma once
+
+#include <string>
+
+#include "support/ZoneTest.h"
+
+enum KeyMods { kNone = 0, kShift = 1, kCtrl = 2 };
+
+class KeyZoneTest : public ZoneTest {
+protected:
+    void SetUp() override {
+        ZoneTest::SetUp();
+        m_zone.SetText("");
+    }
+
+    void Press(UINT nVirtKey, int nMods = kNone, int nTimes = 1) {
+        m_platform.SetKeyState(VK_SHIFT, (nMods & kShift) != 0);
+        m_platform.SetKeyState(VK_CONTROL, (nMods & kCtrl) != 0);
+        for (int i = 0; i < nTimes; ++i)
+            m_zone.HandleKeyDown(nVirtKey, 1, 0);
+        m_platform.SetKeyState(VK_SHIFT, false);
+        m_platform.SetKeyState(VK_CONTROL, false);
+    }
+
+    void Type(const std::string& text) {
+        for (char c : text)
+            m_zone.HandleChar(static_cast<unsigned char>(c), 1, 0);
+    }
+
+    // Places the caret as a click would, which forgets the goal x too.
+    void Caret(int nLine, int nChar) {
+        m_zone.SetSelection(nLine, nLine, nChar, nChar, 0, 0);
+        m_zone.m_nGoalX = -1;
+    }
+
+    void ExpectSelection(int l0, int c0, int l1, int c1) {
+        EXPECT_EQ(m_zone.m_nSelStartLine, l0);
+        EXPECT_EQ(m_zone.m_nSelStartChar, c0);
+        EXPECT_EQ(m_zone.m_nSelEndLine, l1);
+        EXPECT_EQ(m_zone.m_nSelEndChar, c1);
+    }
+
+    // The whole text with CR as the line end, and none added at its end, so
+    // that an ended last line shows.
+    std::string CrText() { return Text(TF_NO_FINAL_END); }
+
+    DWORD& Bookmarks(int nLine) { return m_zone.GetLine(nLine)->m_dwBookmarks; }
+    DWORD& Flags(int nLine) { return m_zone.GetLine(nLine)->m_dwBlockFlags; }
+};
