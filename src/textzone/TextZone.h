@@ -250,6 +250,18 @@ protected:
         return (m_dwStyle & ZS_PARAGRAPH) ? TZ_MAX_PARAGRAPH_LINE : TZ_MAX_LINE_LENGTH;
     }
 
+    // Mouse and drag helpers (TextZoneMouse.cpp, TextZoneHitTest.cpp).
+    // The line under a point, at most the place behind the text.
+    int GetLineUnderPoint(POINT* pt);
+    // The column under a point on a line's space-equivalent copy padded far
+    // out, so that a box may reach beyond the line's end.
+    int GetBoxIndexFromPoint(int nLine, POINT* pt);
+    // While the pointer is outside the text: a scroll step at most every 50
+    // milliseconds, and a re-posted move that comes back here.
+    void AutoScroll(UINT nFlags, POINT* pt);
+    // Moves (or copies) the selected text to a place, as one undo step.
+    void DropSelectedText(int nLine, int nChar, bool bCopy);
+
     // --- Key handling helpers (TextZoneKeyMoves.cpp, TextZoneKeyEdit.cpp,
     // TextZoneChar.cpp) ---
     // Several lines selected with no width: a tall caret that types on every line.
@@ -345,4 +357,5 @@ public:
     int m_bRepaintBeforeScroll = 0;
     GraphicText m_GraphicText;
     bool m_bDragCopyCursor = false;
+    BYTE m_bOleDragSource = 0;  // this zone is the source of a running system drag
 };

@@ -1,34 +1,110 @@
-// Clipboard and drag and drop.
+// The clipboard, in plain text only: a box goes out as lines, and whether
+// text comes back as a box is up to the zone it is pasted into.
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "platform/Messages.h"
+#include "platform/Platform.h"
 #include "textzone/TextZone.h"
 
-// The clipboard and drag and drop are not wired to the zone yet.
-int CTextZone::Cut() {
-    return 0;
-}
+namespace {
+
+// The wait cursor for the length of a scope.
+class CWaitCursor {
+public:
+    CWaitCursor() {
+        if (IPlatform* p = GetPlatform()) p->BeginWaitCursor();
+    }
+    ~CWaitCursor() {
+        if (IPlatform* p = GetPlatform()) p->EndWaitCursor();
+    }
+    CWaitCursor(const CWaitCursor&) = delete;
+    CWaitCursor& operator=(const CWaitCursor&) = delete;
+};
+
+}  // namespace
+
 int CTextZone::Copy() {
-    return 0;
+    if (!TestSelection()) return 0;
+    CWaitCursor wait;
+    LONG size = GetSelectedTextLength(TF_CRLF) + 10;
+    std::vector<char> buffer(static_cast<size_t>(size), 0);
+    GetSelectedText(buffer.data(), size, TF_CRLF);
+    if (!OpenClipboard(m_pWnd)) return 0;
+    EmptyClipboard();
+    BOOL taken = SetClipboardData(CF_TEXT, std::string(buffer.data()));
+    CloseClipboard();
+    return taken ? 1 : 0;
 }
+
+int CTextZone::Cut() {
+    if (!TestSelection()) return 1;
+    int copied = Copy();
+    if (copied && !m_bReadOnly) {
+        SetModify(1);
+        StartRegister(5);
+        DeleteSelection(1);
+        EndRegister();
+        UpdateVScrollBar();
+        UpdateHScrollBar(0, TZ_TO_END);
+    }
+    return copied;
+}
+
 int CTextZone::Paste() {
-    return 0;
-}
-void CTextZone::HandleOleLButtonDown(UINT, POINT*) {}
-void CTextZone::HandleOleLButtonUp(UINT, POINT*) {}
-void CTextZone::HandleOleMouseMove(UINT, POINT*) {}
-int CTextZone::HandleOleDrag(UINT, POINT*) {
-    return 0;
-}
-int CTextZone::HandleOleDrop(const char*, ULONG, POINT*) {
-    return 0;
-}
-bool CTextZone::IsOleDragAllowed(UINT, POINT*) {
-    return false;
-}
-bool CTextZone::IsOleDropAllowed(UINT, POINT*) {
-    return false;
-}
-bool CTextZone::DoOleMoveItem(POINT*) {
-    return false;
-}
-bool CTextZone::DoOlePasteItem(const char*, POINT*) {
-    return false;
+    if (m_bReadOnly) return 0;
+    std::string text;
+    if (!OpenClipboard(m_pWnd)) return 1;
+    bool got = IsClipboardFormatAvailable(CF_TEXT) && GetClipboardData(CF_TEXT, &text);
+    CloseClipboard();
+    // The text ends at its first 0, as the clipboard's text format does.
+    if (!got) return 1;
+    text.resize(std::strlen(text.c_str()));
+    if (text.empty()) return 1;
+
+    const LONG n = static_cast<LONG>(text.size());
+    const bool oneLine = text.find_first_of("\r\n") == std::string::npos;
+
+    // A box caret over several lines takes a one-line text on every line.
+    if (oneLine && m_nSelectionMode == 2 && m_nSelStartChar == m_nSelEndChar &&
+        m_nSelStartLine != m_nSelEndLine) {
+        const int startLine = m_nSelStartLine;
+        const int endLine = m_nSelEndLine;
+        const int column = m_nSelStartChar;
+        const LONG lines = endLine - startLine + 1;
+        // Reckoned wide: a long text on many lines passes any 32-bit limit.
+        if (m_lMaxLength <= 0 ||
+            static_cast<long long>(lines) * n + m_nCurrentLength <= m_lMaxLength) {
+            SetModify(1);
+            StartRegister(1);
+            HideCaret();
+            std::string all;
+            all.reserve(static_cast<size_t>(lines) * (static_cast<size_t>(n) + 1));
+            for (LONG i = 0; i < lines; ++i) {
+                all += text;
+                all += '\r';
+            }
+            InsertText(all.c_str(), 0, 1, 1);
+            m_nSelStartLine = startLine;
+            m_nSelStartChar = m_nSelEndChar = column + n;
+            EndRegister();
+            RedrawLines(startLine, endLine, 1);
+            DrawCaret(1, 1);
+            return 1;
+        }
+        // Too long for every line: perhaps it fits once.
+    }
+
+    if (m_lMaxLength > 0 &&
+        static_cast<long long>(m_nCurrentLength) + n - GetSelectedTextLength(0) > m_lMaxLength) {
+        OnTextTooLong();
+        return 1;
+    }
+    SetModify(1);
+    CWaitCursor wait;
+    StartRegister(6);
+    InsertText(text.c_str(), 0, 1, 1);
+    EndRegister();
+    return 1;
 }

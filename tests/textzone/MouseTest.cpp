@@ -1,0 +1,356 @@
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/headless/HeadlessFonts.h"
+#include "support/ZoneTest.h"
+
+namespace {
+
+using Scrolls = std::vector<std::pair<char, UINT>>;
+
+// A zone that notes the scroll steps the mouse asks for.
+class CMouseZone : public CTestZone {
+public:
+    void HandleVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar) override {
+        m_scrolls.push_back({'V', nSBCode});
+        CTestZone::HandleVScroll(nSBCode, nPos, pScrollBar);
+    }
+    void HandleHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar) override {
+        m_scrolls.push_back({'H', nSBCode});
+        CTestZone::HandleHScroll(nSBCode, nPos, pScrollBar);
+    }
+    Scrolls m_scrolls;
+};
+
+class MouseTest : public HeadlessTest {
+protected:
+    void SetUp() override {
+        HeadlessTest::SetUp();
+        LOGFONTA lf = CHeadlessFonts::MakeFont(CHeadlessFonts::kFixedFace, 16);
+        m_font.CreateFontIndirect(&lf);
+        m_zone.SetWindow(&m_wnd);
+        RECT client;
+        m_wnd.GetClientRect(&client);
+        m_zone.SetRect(&client);
+        m_zone.SetFont(m_font);
+        m_platform.SetTickCount(1000);
+    }
+    void TearDown() override {
+        m_zone.HideCaret();
+        HeadlessTest::TearDown();
+    }
+
+    // The middle of a line's height, at the left edge of a byte.
+    static POINT At(int nLine, int nChar) { return POINT{nChar * 8, nLine * 16 + 8}; }
+    void Down(POINT pt, UINT nFlags = 0) { m_zone.HandleLButtonDown(nFlags | MK_LBUTTON, &pt); }
+    void Move(POINT pt, UINT nFlags = 0) { m_zone.HandleMouseMove(nFlags | MK_LBUTTON, &pt); }
+    void Up(POINT pt, UINT nFlags = 0) { m_zone.HandleLButtonUp(nFlags, &pt); }
+    void Click(POINT pt, UINT nFlags = 0) { Down(pt, nFlags), Up(pt, nFlags); }
+    void DblClk(POINT pt) { m_zone.HandleLButtonDblClk(MK_LBUTTON, &pt); }
+
+    // Delivers the moves that auto-scroll posted, as the message loop would.
+    int DeliverPostedMoves() {
+        std::vector<MSG> posted = m_platform.GetPostedMessages();
+        m_platform.ClearPostedMessages();
+        for (const MSG& msg : posted) {
+            POINT pt{GET_X_LPARAM(msg.lParam), GET_Y_LPARAM(msg.lParam)};
+            m_zone.HandleMouseMove(static_cast<UINT>(msg.wParam), &pt);
+        }
+        return static_cast<int>(posted.size());
+    }
+
+    std::string Text() {
+        std::vector<char> buffer(static_cast<size_t>(m_zone.GetTextLength(TF_CRLF)) + 8, 0);
+        m_zone.GetText(buffer.data(), static_cast<LONG>(buffer.size()), TF_CRLF);
+        return buffer.data();
+    }
+    std::string Selected() {
+        std::vector<char> buffer(static_cast<size_t>(m_zone.GetSelectedTextLength(TF_CRLF)) + 8);
+        m_zone.GetSelectedText(buffer.data(), static_cast<LONG>(buffer.size()), TF_CRLF);
+        return buffer.data();
+    }
+    void ExpectSelection(int nStartLine, int nStartChar, int nEndLine, int nEndChar) {
+        EXPECT_EQ(m_zone.m_nSelStartLine, nStartLine);
+        EXPECT_EQ(m_zone.m_nSelStartChar, nStartChar);
+        EXPECT_EQ(m_zone.m_nSelEndLine, nEndLine);
+        EXPECT_EQ(m_zone.m_nSelEndChar, nEndChar);
+    }
+    void LoadNumberedLines(int nLines) {
+        std::string text;
+        for (int i = 0; i < nLines; ++i)
+            text += "line " + std::to_string(i) + "\r\n";
+        ASSERT_TRUE(m_zone.SetText(text.c_str()));
+        // Loading leaves the caret, and the view, at the end.
+        m_zone.SetSelection(0, 0, 0, 0, 0, 1);
+        ASSERT_EQ(m_zone.GetVScrollOffset(), 0);
+        m_zone.m_scrolls.clear();
+    }
+    int Cursor() const { return m_platform.GetCurrentCursorId(); }
+
+    CFont m_font;
+    CMouseZone m_zone;
+};
+
+}  // namespace
+
+TEST_F(MouseTest, PressMoveAndReleaseSelectFromThePressPoint) {
+    ASSERT_TRUE(m_zone.SetText("hello world\r\nsecond line\r\nthird\r\n"));
+    Down(At(0, 2));
+    EXPECT_EQ(CWnd::GetCapture(), &m_wnd);
+    Move(At(1, 4));
+    ExpectSelection(0, 2, 1, 4);
+    Move(At(0, 0));  // above the press point, which stays the fixed end
+    ExpectSelection(0, 0, 0, 2);
+    Move(At(2, 3));
+    Up(At(2, 3));
+    EXPECT_EQ(CWnd::GetCapture(), nullptr);
+    EXPECT_FALSE(m_zone.m_bMouseSelecting);
+    EXPECT_EQ(Selected(), "llo world\r\nsecond line\r\nthi");
+
+    // Shift extends from the root.
+    Click(At(0, 1), MK_SHIFT);
+    ExpectSelection(0, 1, 0, 2);
+    EXPECT_EQ(m_zone.GetSelRootChar(), 2);
+
+    // The nearer byte boundary wins, a tie going right; right of a line's
+    // end is its end, below the text the place behind it.
+    Click(POINT{100, 40});
+    Click(POINT{27, 8});
+    ExpectSelection(0, 3, 0, 3);
+    Click(POINT{28, 8});
+    ExpectSelection(0, 4, 0, 4);
+    Click(POINT{390, 40});
+    ExpectSelection(2, 5, 2, 5);
+    Click(POINT{100, 250});
+    ExpectSelection(3, 0, 3, 0);
+
+    // Moves after the capture was lost, or without the button, select nothing.
+    Down(At(0, 2));
+    m_platform.StealCapture();
+    Move(At(1, 4));
+    EXPECT_FALSE(m_zone.m_bMouseSelecting);
+    Down(At(0, 2));
+    POINT pt = At(1, 4);
+    m_zone.HandleMouseMove(0, &pt);
+    Move(At(1, 6));
+    Up(At(1, 6));
+    ExpectSelection(0, 2, 0, 2);
+}
+
+TEST_F(MouseTest, AltDragSelectsABoxFromThePressColumn) {
+    ASSERT_TRUE(m_zone.SetText("abcdefgh\r\nab\r\nabcdefgh\r\n"));
+    m_platform.SetKeyState(VK_MENU, true);
+    Down(At(0, 2));
+    Move(At(2, 5));
+    Up(At(2, 5));
+    EXPECT_EQ(m_zone.GetSelectionMode(), 2);
+    EXPECT_EQ(Selected(), "cde\r\n   \r\ncde\r\n");
+
+    // Pressed beyond a short line's end, the box starts at that column, and
+    // back at no width the caret returns to a byte of its line.
+    Down(At(1, 6));
+    ExpectSelection(1, 2, 1, 2);
+    Move(At(2, 8));
+    ExpectSelection(1, 6, 2, 8);
+    Move(At(1, 6));
+    Up(At(1, 6));
+    ExpectSelection(1, 2, 1, 2);
+
+    // Under SetNoBlockFlag, or with a proportional font, the same is a stream.
+    m_zone.SetSelectionMode(1);
+    m_zone.SetNoBlockFlag(1);
+    Down(At(0, 2));
+    Move(At(1, 1));
+    Up(At(1, 1));
+    EXPECT_EQ(m_zone.GetSelectionMode(), 1);
+    ExpectSelection(0, 2, 1, 1);
+    m_zone.SetNoBlockFlag(0);
+    LOGFONTA lf = CHeadlessFonts::MakeFont(CHeadlessFonts::kProportionalFace, 16);
+    CFont proportional;
+    proportional.CreateFontIndirect(&lf);
+    m_zone.SetFont(proportional);
+    Down(POINT{4, 8});
+    Move(POINT{60, 24});
+    Up(POINT{60, 24});
+    EXPECT_EQ(m_zone.GetSelectionMode(), 1);
+    m_zone.SetFont(m_font);
+    m_platform.SetKeyState(VK_MENU, false);
+}
+
+TEST_F(MouseTest, DoubleClickSelectsAWordOrOneOtherByte) {
+    ASSERT_TRUE(m_zone.SetText("int #x_1 = a+b;  \r\nabc def\r\ncaf\xC3\xA9 x\r\n"));
+    m_zone.SetSelectionMode(2);
+    DblClk(At(0, 6));
+    EXPECT_EQ(m_zone.GetSelectionMode(), 1);
+    EXPECT_EQ(Selected(), "#x_1");
+    // Punctuation or a blank with no word before: that one byte.
+    DblClk(At(0, 9));
+    EXPECT_EQ(Selected(), "=");
+    DblClk(At(0, 16));
+    ExpectSelection(0, 16, 0, 17);
+    DblClk(At(0, 14));  // at a word's end, the word
+    EXPECT_EQ(Selected(), "b");
+    DblClk(At(1, 20));  // beyond the line's end, its last word
+    ExpectSelection(1, 4, 1, 7);
+    DblClk(At(2, 1));
+    EXPECT_EQ(Selected(), "caf\xC3\xA9");
+    DblClk(At(3, 2));  // on the place behind the text: nothing
+    EXPECT_FALSE(m_zone.TestSelection());
+}
+
+TEST_F(MouseTest, APressOnABlockMarkInTheMarginTogglesTheBlock) {
+    ASSERT_TRUE(m_zone.SetText("0\r\n1\r\n2\r\n3\r\n4\r\n"));
+    m_zone.SetMarginMode(1);
+    ASSERT_EQ(m_zone.SetEditBlock(1, 3), 1);
+    // The mark spans the right three quarters of a line's height of the
+    // 16-pixel margin.
+    Click(POINT{3, 24});
+    EXPECT_EQ(m_zone.GetLine(1)->m_dwBlockFlags, 2u);
+    EXPECT_EQ(m_zone.GetLineHeight(2), 0);
+    ExpectSelection(1, 0, 1, 0);
+    Click(POINT{2, 24});
+    m_platform.SetKeyState(VK_CONTROL, true);
+    Click(POINT{12, 24});
+    m_platform.SetKeyState(VK_CONTROL, false);
+    EXPECT_EQ(m_zone.GetLine(1)->m_dwBlockFlags, 2u);
+    Click(POINT{15, 24});
+    EXPECT_EQ(m_zone.GetLine(1)->m_dwBlockFlags, 1u);
+    EXPECT_EQ(Text(), "0\r\n1\r\n2\r\n3\r\n4\r\n");
+}
+
+TEST_F(MouseTest, DraggingSelectedTextMovesItOrWithShiftCopiesIt) {
+    ASSERT_TRUE(m_zone.SetText("one two three\r\n"));
+    m_zone.SetSelection(0, 0, 4, 8, 0, 0);
+    Down(At(0, 5));
+    Move(At(0, 6));
+    EXPECT_EQ(m_zone.m_nDragState, 2);
+    EXPECT_EQ(Cursor(), IDC_NO);  // over the selection itself
+    Move(At(0, 13));
+    EXPECT_EQ(Cursor(), 32);
+    // Behind the selection on its line the place is taken as it will be
+    // once the text has gone.
+    Up(At(0, 13));
+    EXPECT_EQ(Text(), "one threetwo \r\n");
+    EXPECT_EQ(Selected(), "two ");
+    EXPECT_EQ(Cursor(), IDC_IBEAM);
+    EXPECT_EQ(CWnd::GetCapture(), nullptr);
+    m_zone.Undo();
+    EXPECT_EQ(Text(), "one two three\r\n");
+
+    m_zone.SetSelection(0, 0, 4, 8, 0, 0);
+    Down(At(0, 5));
+    Move(At(0, 1), MK_SHIFT);
+    EXPECT_EQ(Cursor(), 31);
+    Up(At(0, 0), MK_SHIFT);
+    EXPECT_EQ(Text(), "two one two three\r\n");
+
+    // Let go on the selection or outside the text: nothing changes.
+    m_zone.SetSelection(0, 0, 4, 8, 0, 0);
+    Down(At(0, 5));
+    Move(At(0, 6));
+    Up(At(0, 7));
+    Down(At(0, 5));
+    Move(POINT{100, 320});
+    EXPECT_EQ(Cursor(), IDC_NO);
+    EXPECT_EQ(m_zone.m_scrolls, (Scrolls{{'V', SB_LINEDOWN}}));
+    Up(POINT{100, 320});
+    EXPECT_EQ(Text(), "two one two three\r\n");
+    ExpectSelection(0, 4, 0, 8);
+    // A click that never moved places the caret.
+    Click(At(0, 6));
+    ExpectSelection(0, 6, 0, 6);
+}
+
+TEST_F(MouseTest, AMoveDownwardsAcrossLinesLandsWhereThePointerWas) {
+    ASSERT_TRUE(m_zone.SetText("aa\r\nbb\r\ncc\r\ndd\r\n"));
+    m_zone.SetSelection(0, 1, 1, 1, 0, 0);
+    Down(At(0, 1));
+    Move(At(3, 1));
+    Up(At(3, 1));
+    EXPECT_EQ(Text(), "ab\r\ncc\r\nda\r\nbd\r\n");
+    ExpectSelection(2, 1, 3, 1);
+}
+
+TEST_F(MouseTest, ReadOnlyOrWithoutDraggingAPressOnTheSelectionSelects) {
+    ASSERT_TRUE(m_zone.SetText("one two three\r\n"));
+    m_zone.SetReadOnly(1);
+    m_zone.SetSelection(0, 0, 4, 8, 0, 0);
+    Down(At(0, 6));
+    Move(At(0, 10));
+    Up(At(0, 10));
+    ExpectSelection(0, 6, 0, 10);
+    m_zone.SetReadOnly(0);
+    m_zone.SetDragDropFlag(0);
+    Down(At(0, 7));
+    EXPECT_EQ(m_zone.m_nDragState, 0);
+    Up(At(0, 7));
+    EXPECT_EQ(Text(), "one two three\r\n");
+}
+
+TEST_F(MouseTest, AutoScrollStepsAtMostEvery50MillisecondsWhileThePointerIsOutside) {
+    LoadNumberedLines(40);
+    Down(At(0, 1));
+    Move(POINT{40, 310});
+    EXPECT_EQ(m_zone.m_scrolls, (Scrolls{{'V', SB_LINEDOWN}}));
+    // The move comes back with the same flags and point.
+    std::vector<MSG> posted = m_platform.GetPostedMessages();
+    ASSERT_EQ(posted.size(), 1u);
+    EXPECT_EQ(posted[0].message, WM_MOUSEMOVE);
+    EXPECT_EQ(posted[0].wParam, static_cast<WPARAM>(MK_LBUTTON));
+    EXPECT_EQ(posted[0].lParam, MAKELPARAM(40, 310));
+    // Below the text the selection reaches the last whole line in view.
+    EXPECT_EQ(m_zone.GetSelMobileLine(), 17 + m_zone.GetVScrollOffset() / 16);
+
+    m_zone.m_scrolls.clear();
+    EXPECT_EQ(DeliverPostedMoves(), 1);
+    m_platform.AdvanceTickCount(50);
+    EXPECT_EQ(DeliverPostedMoves(), 1);
+    EXPECT_TRUE(m_zone.m_scrolls.empty());
+    m_platform.AdvanceTickCount(1);
+    EXPECT_EQ(DeliverPostedMoves(), 1);
+    EXPECT_EQ(m_zone.m_scrolls.size(), 1u);
+
+    // Sideways two steps, above one; a waiting mouse message is not doubled.
+    m_zone.m_scrolls.clear();
+    m_platform.ClearPostedMessages();
+    m_platform.AdvanceTickCount(51);
+    Move(POINT{-5, 100});
+    m_platform.AdvanceTickCount(51);
+    Move(POINT{400, -1});
+    EXPECT_EQ(m_zone.m_scrolls, (Scrolls{{'H', SB_LINELEFT},
+                                         {'H', SB_LINELEFT},
+                                         {'H', SB_LINERIGHT},
+                                         {'H', SB_LINERIGHT},
+                                         {'V', SB_LINEUP}}));
+    EXPECT_EQ(m_platform.GetPostedMessages().size(), 1u);
+
+    // Back inside nothing is posted, and after the release a stray move
+    // ends the loop.
+    m_zone.m_scrolls.clear();
+    m_platform.ClearPostedMessages();
+    m_platform.AdvanceTickCount(100);
+    Move(At(3, 2));
+    EXPECT_TRUE(m_platform.GetPostedMessages().empty());
+    Move(POINT{40, 310});
+    Up(POINT{40, 310});
+    m_zone.m_scrolls.clear();
+    m_platform.AdvanceTickCount(100);
+    EXPECT_EQ(DeliverPostedMoves(), 1);
+    EXPECT_TRUE(m_zone.m_scrolls.empty());
+    EXPECT_TRUE(m_platform.GetPostedMessages().empty());
+}
+
+TEST_F(MouseTest, HoldingThePointerBelowScrollsTheSelectionOn) {
+    LoadNumberedLines(40);
+    Down(At(0, 1));
+    Move(POINT{40, 310});
+    for (int i = 0; i < 3; ++i) {
+        m_platform.AdvanceTickCount(60);
+        DeliverPostedMoves();
+    }
+    // One line a step: the first move's and three more.
+    EXPECT_EQ(m_zone.GetVScrollOffset(), 4 * 16);
+    EXPECT_EQ(m_zone.GetSelMobileLine(), 21);
+    Up(POINT{40, 310});
+}
