@@ -140,6 +140,7 @@ void BM_InsertRemoveLine(benchmark::State& state) {
     const int nLines = static_cast<int>(state.range(0));
     EngineDoc& doc = LoadedDoc(nLines);
     const int mid = bench::MiddleLine(nLines);
+    const int length = doc.LineLength(mid);
     for (auto _ : state) {
         state.SetIterationTime(Seconds([&] {
             doc.PlaceCaret(mid, 0);
@@ -148,7 +149,8 @@ void BM_InsertRemoveLine(benchmark::State& state) {
             Edit(doc.zone, 4, nullptr);
         }));
     }
-    if (doc.zone.GetLineCount() != nLines) state.SkipWithError("the line count changed");
+    if (doc.zone.GetLineCount() != nLines || doc.LineLength(mid) != length)
+        state.SkipWithError("the text changed");
 }
 
 // Typing through the key handler, or (kKeys false) each character inserted

@@ -8,10 +8,12 @@
 
 namespace bench {
 
-// Line counts the tasks run at; the largest is for the engine alone.
+// Line counts the tasks run at; the largest is for the engine alone. It
+// stays a little under the engine's 10M-line limit, where edits that add a
+// line are refused.
 constexpr int kSmall = 10000;
 constexpr int kLarge = 1000000;
-constexpr int kHuge = 10000000;
+constexpr int kHuge = 9990000;
 
 // A word that occurs once, on the line FindLine(n).
 constexpr const char* kNeedle = "zebra_marker";
