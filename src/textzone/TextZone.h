@@ -228,6 +228,10 @@ protected:
     bool DoOleMoveItem(POINT* pt);
     bool DoOlePasteItem(const char* pszText, POINT* pt);
 
+    // Shows the lines [nFrom, nTo) again unless a closed block still hides
+    // them: they were hidden by a block that went with its first line.
+    void ShowOrphanedLines(int nFrom, int nTo);
+
     // Column editing, the box branches of InsertText and DeleteSelection.
     int BoxInsertText(const char* pszText, int nColumn, int bHadSelection, int* pnLast);
     void BoxDeleteSelection();

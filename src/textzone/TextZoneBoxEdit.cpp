@@ -7,21 +7,10 @@
 #include <vector>
 
 #include "platform/DC.h"
+#include "textzone/TextBytes.h"
 #include "textzone/TextZone.h"
 
-namespace {
-
-constexpr char kLineEnd = 13;
-
-// Pads the text of a line, in front of its terminator, to nLength bytes.
-void PadText(CStringEx& line, int nLength) {
-    const int ended = line.IsEnded();
-    if (ended) line.discardRight(1);
-    if (line.GetLength() < nLength) line += VESK::String(' ', nLength - line.GetLength());
-    if (ended) line += kLineEnd;
-}
-
-}  // namespace
+using textbytes::PadText;
 
 int CTextZone::BoxX(CDC* pDC, const CStringEx& line, int nCount) {
     int w;

@@ -6,15 +6,14 @@
 
 #include "host/MessageBeep.h"
 #include "platform/Wnd.h"
+#include "textzone/TextBytes.h"
 #include "textzone/TextZone.h"
 
 namespace {
 
-constexpr char kLineEnd = 13;
-
-bool IsBlank(char c) {
-    return c == ' ' || c == '\t';
-}
+using textbytes::IsBlank;
+using textbytes::kLineEnd;
+using textbytes::PadText;
 
 // CR, LF and CR LF are one line end each; LF CR is two.
 int CountLineEnds(const char* p) {
@@ -121,7 +120,9 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
             // The tail keeps what stood right of the caret until the text is in.
             int tailLength = pTail->GetLength();
             int caretChar = m_nSelStartChar;
-            pLine->EnsureMinimumLength(caretChar);
+            // A free caret may stand beyond the text: blanks fill the gap, in
+            // front of the line end.
+            PadText(*pLine, caretChar);
             *pTail += pLine->subString(caretChar);
             pLine->keepLeft(caretChar);
 
@@ -296,7 +297,7 @@ void CTextZone::DeleteSelection(int bUpdate) {
         if (endLine == startLine) {
             CStringEx* pLine = GetLine(startLine);
             if (pLine) {
-                if (pLine->GetLength() < endChar) pLine->EnsureMinimumLength(endChar);
+                PadText(*pLine, endChar);
                 int ended = pLine->IsEnded();
                 pLine->RemoveChar(startChar, endChar - startChar, 0);
                 if (ended) pLine->EnsureEnded();
@@ -308,7 +309,7 @@ void CTextZone::DeleteSelection(int bUpdate) {
             CStringEx* pFirst = GetLine(startLine);
             CStringEx* pSecond = GetLine(startLine + 1);
             if (pFirst) {
-                pFirst->EnsureMinimumLength(startChar);
+                PadText(*pFirst, startChar);
                 pFirst->keepLeft(startChar);
                 if (pSecond) {
                     int cut = std::min(endChar, pSecond->GetLength() - pSecond->IsEnded());

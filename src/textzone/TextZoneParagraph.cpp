@@ -5,13 +5,12 @@
 #include <algorithm>
 
 #include "platform/DC.h"
+#include "textzone/TextBytes.h"
 #include "textzone/TextZone.h"
 
 namespace {
 
-bool IsBlank(char c) {
-    return c == ' ' || c == '\t';
-}
+using textbytes::IsBlank;
 
 bool IsWrapDelimiter(char c) {
     return c == '\t' || c == ' ' || c == '-';

@@ -255,6 +255,13 @@ void CTextZone::RemoveLines(int nFirst, int nCount) {
         }
         ++it;
     }
+    // Lines of a closed block whose first line goes would stay hidden with
+    // no head left to open them: they are shown again below.
+    std::vector<std::pair<long long, long long>> orphaned;
+    for (auto& blk : gone) {
+        const long long end = static_cast<long long>(blk->m_nFirstLine) + blk->m_nLineCount;
+        if (blk->IsClosed() && end > nEnd) orphaned.emplace_back(nFirst, end - nCount);
+    }
     if (!gone.empty()) {
         std::unordered_set<const CEditBlk*> set;
         for (auto& blk : gone)
@@ -328,8 +335,29 @@ void CTextZone::RemoveLines(int nFirst, int nCount) {
         removeBlocks(b0, 1);
         m_nCacheLine = -1;
     }
+    for (const auto& [from, to] : orphaned)
+        ShowOrphanedLines(static_cast<int>(from), static_cast<int>(to));
     // The cache may now name nFirst behind b0's end (a null for that one lookup);
     // callers tolerate a missing line and the next other lookup heals it.
+}
+
+void CTextZone::ShowOrphanedLines(int nFrom, int nTo) {
+    // A line inside a block that is still closed stays hidden by that block.
+    auto hiddenBy = [](const BlockList& blocks, int nLine, bool bTree) {
+        for (const auto& blk : blocks) {
+            bool closed = bTree ? blk->IsClosed() != 0 : blk->m_bClosed != 0;
+            if (closed && blk->m_nFirstLine < nLine &&
+                nLine < static_cast<long long>(blk->m_nFirstLine) + blk->m_nLineCount)
+                return true;
+        }
+        return false;
+    };
+    for (int n = nFrom; n < nTo; ++n) {
+        CStringEx* pLine = GetLine(n);
+        if (!pLine) break;
+        if (!hiddenBy(m_editBlocks, n, true) && !hiddenBy(m_altBlocks, n, false))
+            pLine->m_dwBlockFlags &= ~4u;
+    }
 }
 
 void CTextZone::FreeAllLines() {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QFile>
 #include <QImage>
 #include <QMouseEvent>
@@ -112,4 +113,29 @@ TEST_F(DemoTest, TheScreenshotShowsTheText) {
         for (int x = 0; x < image.width(); ++x)
             if (qGray(image.pixel(x, y)) < 80) ++dark;
     EXPECT_GT(dark, 50);
+}
+
+TEST_F(DemoTest, KeyCombinationsAndTheClipboardWorkThroughQt) {
+    ASSERT_TRUE(m_window.OpenFile(Write("alpha beta\r\n")));
+    QWidget* widget = EditorWidget();
+    widget->setFocus();
+    Pump();
+    // Shift+End selects the line; Ctrl+C puts it on Qt's clipboard.
+    QTest::keyClick(widget, Qt::Key_End, Qt::ShiftModifier);
+    QTest::keyClick(widget, Qt::Key_C, Qt::ControlModifier);
+    Pump();
+    EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "alpha beta");
+
+    // Text from Qt's clipboard comes in with Ctrl+V, bytes above 127 as they were.
+    QApplication::clipboard()->setText(QString::fromUtf8("caf\u00e9 "));
+    QTest::keyClick(widget, Qt::Key_Home);
+    QTest::keyClick(widget, Qt::Key_V, Qt::ControlModifier);
+    Pump();
+    EXPECT_EQ(Text(), "caf\xe9 alpha beta\r\n");
+
+    // Ctrl+Z undoes the paste; the keypad's digits type like the others.
+    QTest::keyClick(widget, Qt::Key_Z, Qt::ControlModifier);
+    QTest::keyClick(widget, Qt::Key_7, Qt::KeypadModifier);
+    Pump();
+    EXPECT_EQ(Text(), "7alpha beta\r\n");
 }

@@ -253,6 +253,21 @@ TEST_F(EditBlockTest, EditsMoveAndCutBlocks) {
     EXPECT_EQ(Line(3), "7\r");
 }
 
+TEST_F(EditBlockTest, LinesOfAClosedBlockThatLosesItsHeadComeBack) {
+    SetLines(10);
+    Rescan({{2, 4}, {7, 3}});
+    m_zone.CloseBlock(2, 0);
+    m_zone.CloseBlock(7, 0);
+    EXPECT_EQ(Flags(), "0024440244");
+    // Joining the head into the line above takes the block with it; its
+    // lines show again, while the other closed block keeps its own hidden.
+    m_zone.SetSelection(1, 2, 1, 1, 0, 0);
+    m_zone.DeleteSelection(0);
+    EXPECT_EQ(Line(1), "1\r");
+    EXPECT_EQ(Extents(m_zone.m_editBlocks), (std::vector<std::pair<int, int>>{{6, 3}}));
+    EXPECT_EQ(Flags(), "000000244");
+}
+
 TEST_F(EditBlockTest, ParentDestroyedUnderAClosedChild) {
     SetLines(10);
     Rescan({{1, 8}, {3, 2}});

@@ -210,6 +210,19 @@ TEST_F(InsertDeleteTest, ASelectionEndingBehindTheTerminatorJoinsUnlessTheCaretI
     Select(0, 1, 0, 5);
     m_zone.DeleteSelection(0);
     EXPECT_EQ(Line(0), "a");
+
+    // Beyond an ended line the padding goes in front of its line end, so
+    // no 13 is left inside the text.
+    ASSERT_TRUE(m_zone.SetText("ab\r\ncd"));
+    Select(0, 1, 0, 6);
+    m_zone.DeleteSelection(0);
+    EXPECT_EQ(Line(0), "a\r");
+    Select(0, 4, 0, 4);
+    m_zone.InsertText("x", 0, 1, 1);
+    EXPECT_EQ(Line(0), "a   x\r");
+    Select(0, 7, 1, 1);
+    m_zone.DeleteSelection(0);
+    EXPECT_EQ(Line(0), "a   x  d");
 }
 
 TEST_F(InsertDeleteTest, BookmarksMoveOnAJoinOnlyBehindBlanks) {

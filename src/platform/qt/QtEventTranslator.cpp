@@ -150,6 +150,19 @@ LPARAM CQtEventTranslator::KeyFlags(const QKeyEvent& event, bool bRelease) {
 
 std::string CQtEventTranslator::Characters(const QKeyEvent& event) {
     if (event.key() == Qt::Key_Delete) return {};
+    const Qt::KeyboardModifiers mods = event.modifiers();
+    if ((mods & Qt::ControlModifier) && !(mods & Qt::AltModifier)) {
+        // Ctrl types control characters, as on the desktop: Ctrl+C is 3,
+        // never a "c" that would replace the selection it is to copy.
+        const int key = event.key();
+        if (key >= Qt::Key_A && key <= Qt::Key_Z) return std::string(1, char(key - Qt::Key_A + 1));
+        if (key == Qt::Key_BracketLeft) return std::string(1, char(27));
+        if (key == Qt::Key_Backslash) return std::string(1, char(28));
+        if (key == Qt::Key_BracketRight) return std::string(1, char(29));
+        if (key == Qt::Key_Space) return " ";
+        const std::string text = CWindows1252::FromQString(event.text());
+        return text.size() == 1 && static_cast<unsigned char>(text[0]) < 32 ? text : std::string();
+    }
     return CWindows1252::FromQString(event.text());
 }
 
