@@ -127,7 +127,9 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
             pLine->keepLeft(caretChar);
 
             bool firstPass = true;
-            while (*p && GetLastLineIndex() < TZ_MAX_LINES) {
+            // The first piece goes into the caret's own line and needs no new
+            // one: the tail alone must not stop it, or the line would stay cut.
+            while (*p && (firstPass || GetLastLineIndex() < TZ_MAX_LINES)) {
                 CStringEx* pTarget;
                 int start;
                 if (firstPass) {

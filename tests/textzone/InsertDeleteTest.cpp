@@ -280,6 +280,19 @@ TEST_F(InsertDeleteTest, TheLineLimitStopsTheInsertion) {
     EXPECT_STREQ(zone.GetLine(2)->c_str(), "c\r");
     EXPECT_STREQ(zone.GetLine(3)->c_str(), "top");
 
+    // One line below the limit: the tail reaches it, yet text for the
+    // caret's own line still goes in, and the line is whole again.
+    ASSERT_TRUE(zone.SetText("top"));
+    zone.SetSelection(0, 0, 1, 1, 0, 0);
+    zone.m_nPretended = TZ_MAX_LINES - 1;
+    EXPECT_EQ(zone.InsertText("x", 0, 1, 1), 1);
+    ASSERT_EQ(zone.GetLineCount(), 1);
+    EXPECT_STREQ(zone.GetLine(0)->c_str(), "txop");
+    EXPECT_EQ(zone.InsertText("y\rz", 0, 1, 1), 0);
+    ASSERT_EQ(zone.GetLineCount(), 2);
+    EXPECT_STREQ(zone.GetLine(0)->c_str(), "txy\r");
+    EXPECT_STREQ(zone.GetLine(1)->c_str(), "op");
+
     zone.m_nPretended = TZ_MAX_LINES;
     int before = zone.GetLineCount();
     EXPECT_EQ(zone.InsertText("more\r", 0, 1, 1), 0);
