@@ -275,6 +275,7 @@ protected:
     void KeyMovePage(int bDown, int bShift);
     void KeyHomeEnd(int bEnd, int bCtrl, int bShift);
     // Sets m_nGoalX from a place if it is unset; bSpaced measures columns.
+    void KeyStartMove(int bShift, int bRedraw, int* pnLine, int* pnChar);
     void KeyGoalX(CDC* pDC, int nLine, int nChar, int bSpaced, int bPage);
     int KeyIndexAtGoal(int nLine, int nChar);
     void KeyBackDelete(int bBackspace);

@@ -175,6 +175,17 @@ void CTextZone::KeyMoveHorizontal(int bRight, int bWord, int bShift) {
     DrawCaret(1, 1);
 }
 
+void CTextZone::KeyStartMove(int bShift, int bRedraw, int* pnLine, int* pnChar) {
+    // Without Shift a move ends the selection and starts from the caret;
+    // with it, the selection's mobile end moves.
+    if (!bShift)
+        CancelSelection(bRedraw);
+    else if (!TestSelection())
+        StartSelection();
+    *pnLine = bShift ? GetSelMobileLine() : m_nSelStartLine;
+    *pnChar = bShift ? GetSelMobileChar() : m_nSelStartChar;
+}
+
 void CTextZone::KeyGoalX(CDC* pDC, int nLine, int nChar, int bSpaced, int bPage) {
     if (m_nGoalX != -1) return;
     CStringEx* pLine = GetLine(nLine);
@@ -203,14 +214,10 @@ int CTextZone::KeyIndexAtGoal(int nLine, int nChar) {
 
 void CTextZone::KeyMoveVertical(int bDown, int bShift) {
     HideCaret();
-    if (!bShift)
-        CancelSelection(1);
-    else if (!TestSelection())
-        StartSelection();
+    int oldLine, ch;
+    KeyStartMove(bShift, 1, &oldLine, &ch);
     // A box keeps its column under Shift; a caret follows the goal x.
     const bool keepColumn = bShift && m_nSelectionMode == 2;
-    const int oldLine = bShift ? GetSelMobileLine() : m_nSelStartLine;
-    int ch = bShift ? GetSelMobileChar() : m_nSelStartChar;
 
     CDC* pDC = GetStandardDC();
     KeyGoalX(pDC, oldLine, ch, keepColumn, 0);
@@ -239,13 +246,9 @@ void CTextZone::KeyMoveVertical(int bDown, int bShift) {
 
 void CTextZone::KeyMovePage(int bDown, int bShift) {
     HideCaret();
-    if (!bShift)
-        CancelSelection(1);
-    else if (!TestSelection())
-        StartSelection();
+    int oldLine, ch;
+    KeyStartMove(bShift, 1, &oldLine, &ch);
     const bool keepColumn = bShift && m_nSelectionMode == 2;
-    const int oldLine = bShift ? GetSelMobileLine() : m_nSelStartLine;
-    int ch = bShift ? GetSelMobileChar() : m_nSelStartChar;
 
     // Stored lines, not visible ones: a page may land inside a closed block.
     const int lineHeight = m_nLineHeight > 0 ? m_nLineHeight : 1;
@@ -279,13 +282,9 @@ void CTextZone::KeyHomeEnd(int bEnd, int bCtrl, int bShift) {
     m_nGoalX = -1;
     const int oldFirst = m_nSelStartLine;
     const int oldLast = m_nSelEndLine;
-    if (!bShift)
-        CancelSelection(0);
-    else if (!TestSelection())
-        StartSelection();
+    int oldLine, ch;
+    KeyStartMove(bShift, 0, &oldLine, &ch);
     const bool spaced = bShift && m_nSelectionMode == 2;
-    const int oldLine = bShift ? GetSelMobileLine() : m_nSelStartLine;
-    int ch = bShift ? GetSelMobileChar() : m_nSelStartChar;
     int line = oldLine;
 
     if (bEnd && bCtrl) {
