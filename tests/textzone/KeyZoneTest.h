@@ -2,6 +2,7 @@
 // modifiers held on the headless platform, text through HandleChar.
 #pragma once
 
+#include <initializer_list>
 #include <string>
 
 #include "support/ZoneTest.h"
@@ -35,6 +36,29 @@ protected:
         m_zone.m_nGoalX = -1;
     }
 
+    // Presses each key once and checks where the caret went.
+    struct Move {
+        UINT key;
+        int nMods, nLine, nChar;
+    };
+    void ExpectMoves(std::initializer_list<Move> moves) {
+        int i = 0;
+        for (const Move& m : moves) {
+            SCOPED_TRACE("move " + std::to_string(i++));
+            Press(m.key, m.nMods);
+            ExpectCaret(m.nLine, m.nChar);
+        }
+    }
+
+    // Gives another zone the fixture's window, rectangle and font.
+    void Attach(CTestZone& zone) {
+        zone.SetWindow(&m_wnd);
+        RECT client;
+        m_wnd.GetClientRect(&client);
+        zone.SetRect(&client);
+        zone.SetFont(m_font);
+    }
+
     void ExpectSelection(int l0, int c0, int l1, int c1) {
         EXPECT_EQ(m_zone.m_nSelStartLine, l0);
         EXPECT_EQ(m_zone.m_nSelStartChar, c0);
@@ -42,8 +66,7 @@ protected:
         EXPECT_EQ(m_zone.m_nSelEndChar, c1);
     }
 
-    // The whole text with CR as the line end, and none added at its end, so
-    // that an ended last line shows.
+    // CR line ends and none added, so an ended last line shows.
     std::string CrText() { return Text(TF_NO_FINAL_END); }
 
     DWORD& Bookmarks(int nLine) { return m_zone.GetLine(nLine)->m_dwBookmarks; }

