@@ -15,6 +15,8 @@ public:
     std::vector<std::pair<int, int>> m_redraws;
 };
 
+using Extents = std::vector<std::pair<int, int>>;
+
 class EditBlockTest : public ZoneTest {
 protected:
     // A text of nLines lines "0", "1", ... each ended.
@@ -25,7 +27,10 @@ protected:
         return text;
     }
     void SetLines(int nLines) { ASSERT_TRUE(m_zone.SetText(Numbered(nLines).c_str())); }
-
+    void Close(std::initializer_list<int> heads) {
+        for (int n : heads)
+            m_zone.CloseBlock(n, 0);
+    }
     // The block flags of every line, one digit a line.
     std::string Flags() {
         std::string s;
@@ -38,15 +43,13 @@ protected:
             if (pBlk->m_nFirstLine == nFirst) return pBlk.get();
         return nullptr;
     }
-    // First line and count of each block of a list.
-    static std::vector<std::pair<int, int>> Extents(
-        const std::list<std::unique_ptr<CEditBlk>>& list) {
-        std::vector<std::pair<int, int>> v;
+    static Extents Of(const std::list<std::unique_ptr<CEditBlk>>& list) {
+        Extents v;
         for (auto& pBlk : list)
             v.push_back({pBlk->m_nFirstLine, pBlk->m_nLineCount});
         return v;
     }
-    void Rescan(std::vector<std::pair<int, int>> blocks) {
+    void Rescan(const Extents& blocks) {
         m_zone.BeginEditBlockInput();
         for (auto [nLine, nCount] : blocks)
             EXPECT_EQ(m_zone.AddEditBlockInput(nLine, nCount), 1);
@@ -62,8 +65,7 @@ protected:
         m_zone.SetEditorBlockStatus(s);
     }
     std::string Head() {
-        int nSize = 0;
-        int nHash = 0;
+        int nSize = 0, nHash = 0;
         m_zone.GetTextCRCValues(&nSize, &nHash);
         char buffer[32];
         std::snprintf(buffer, sizeof buffer, "%08X%08X", static_cast<unsigned>(nSize),
@@ -77,46 +79,45 @@ protected:
 TEST_F(EditBlockTest, NestedBlocksCloseAndOpen) {
     SetLines(12);
     const int h = m_zone.GetLineHeight(0);
-    ASSERT_GT(h, 0);
     EXPECT_EQ(m_zone.SetEditBlock(12, 2), 0);  // no such line
     EXPECT_EQ(m_zone.SetEditBlock(3, 3), 1);   // 3..5
     EXPECT_EQ(m_zone.SetEditBlock(1, 8), 1);   // 1..8, made after its inner block
     EXPECT_EQ(m_zone.SetEditBlock(10, 2), 1);
-    EXPECT_EQ(Flags(), "010100000010");
     EXPECT_EQ(Block(3)->m_pParent, Block(1));
-    EXPECT_EQ(Block(1)->m_pParent, nullptr);
 
-    EXPECT_EQ(m_zone.CloseBlock(3, 0), 1);
-    EXPECT_EQ(Flags(), "010244000010");
-    EXPECT_EQ(m_zone.GetLineHeight(3), h);
+    // Each step: close (+) or open (-) a head, then the flags of all lines.
+    const struct {
+        int head, result;
+        const char* flags;
+    } steps[] = {
+        {+3, 1, "010244000010"},
+        {+1, 1, "024644444010"},
+        // Opening the outer block leaves the inner one closed, its head shown.
+        {-1, 1, "010244000010"},
+        {-1, 0, "010244000010"},
+        {-2, 0, "010244000010"},
+        {+2, 0, "010244000010"},
+        {-3, 1, "010100000010"},
+        {+3, 1, "010244000010"},
+        // An inner block opened under its closed parent stays hidden by it.
+        {+1, 1, "024644444010"},
+        {-3, 1, "024544444010"},
+        {-1, 1, "010100000010"},
+    };
+    for (const auto& st : steps) {
+        const int n = st.head < 0 ? -st.head : st.head;
+        EXPECT_EQ(st.head < 0 ? m_zone.OpenBlock(n, 0) : m_zone.CloseBlock(n, 0), st.result)
+            << st.head;
+        EXPECT_EQ(Flags(), st.flags) << st.head;
+    }
+
+    // Hidden lines keep their numbers and text, and with variable heights take no room.
+    Close({3, 1});
+    EXPECT_EQ(m_zone.GetLineHeight(1), h);
     EXPECT_EQ(m_zone.GetLineHeight(4), 0);
-    EXPECT_EQ(m_zone.CloseBlock(1, 0), 1);
-    EXPECT_EQ(Flags(), "024644444010");
-    EXPECT_EQ(Block(3)->IsClosed(), 1);
-    // Hidden lines keep their numbers and text.
-    EXPECT_EQ(m_zone.GetLineCount(), 12);
     EXPECT_EQ(Line(4), "4\r");
-
-    // With variable heights the hidden lines take no room.
     m_zone.SetStyle(ZS_VARHEIGHT);
     EXPECT_EQ(m_zone.GetLineTopPos(9) - m_zone.GetLineTopPos(0), 2 * h);
-
-    // Opening the outer block leaves the inner one closed, its head shown.
-    EXPECT_EQ(m_zone.OpenBlock(1, 0), 1);
-    EXPECT_EQ(Flags(), "010244000010");
-    EXPECT_EQ(m_zone.OpenBlock(1, 0), 0);  // already open
-    EXPECT_EQ(m_zone.OpenBlock(2, 0), 0);  // no block there
-    EXPECT_EQ(m_zone.CloseBlock(2, 0), 0);
-    EXPECT_EQ(m_zone.OpenBlock(3, 0), 1);
-    EXPECT_EQ(Flags(), "010100000010");
-
-    // An inner block opened while its parent is closed stays hidden by it.
-    m_zone.CloseBlock(3, 0);
-    m_zone.CloseBlock(1, 0);
-    EXPECT_EQ(m_zone.OpenBlock(3, 0), 1);
-    EXPECT_EQ(Flags(), "024544444010");
-    EXPECT_EQ(m_zone.OpenBlock(1, 0), 1);
-    EXPECT_EQ(Flags(), "010100000010");
 }
 
 TEST_F(EditBlockTest, NewAndResizedBlocksFindTheirParents) {
@@ -129,9 +130,6 @@ TEST_F(EditBlockTest, NewAndResizedBlocksFindTheirParents) {
     EXPECT_EQ(Block(4)->m_pParent, Block(2));
     m_zone.SetEditBlock(0, 15);  // round all: only the outermost gets a new parent
     EXPECT_EQ(Block(2)->m_pParent, Block(0));
-    EXPECT_EQ(Block(4)->m_pParent, Block(2));
-    EXPECT_EQ(Block(5)->m_pParent, Block(4));
-
     m_zone.SetEditBlock(13, 2);  // ends with 0
     EXPECT_EQ(Block(13)->m_pParent, Block(0));
     m_zone.SetEditBlock(16, 1);
@@ -145,55 +143,40 @@ TEST_F(EditBlockTest, NewAndResizedBlocksFindTheirParents) {
     EXPECT_EQ(m_zone.SetEditBlock(0, 20), 1);
     EXPECT_EQ(Block(16)->m_pParent, Block(0));
     EXPECT_EQ(Block(17)->m_pParent, Block(16));  // had a parent already
-    EXPECT_EQ(Block(2)->m_pParent, Block(0));
-    EXPECT_EQ(Extents(m_zone.m_editBlocks),
-              (std::vector<std::pair<int, int>>{
-                  {0, 20}, {2, 10}, {4, 5}, {5, 2}, {13, 2}, {16, 4}, {17, 2}}));
+    EXPECT_EQ(Block(4)->m_pParent, Block(2));
+    EXPECT_EQ(Block(5)->m_pParent, Block(4));
+    EXPECT_EQ(Of(m_zone.m_editBlocks),
+              (Extents{{0, 20}, {2, 10}, {4, 5}, {5, 2}, {13, 2}, {16, 4}, {17, 2}}));
 }
 
 TEST_F(EditBlockTest, RescanKeepsGrowsShrinksAndDropsClosedBlocks) {
     SetLines(14);
-    Rescan({{1, 4}, {6, 3}, {10, 2}});  // 1..4, 6..8, 10..11
-    EXPECT_EQ(Flags(), "01000010001000");
-    m_zone.CloseBlock(1, 0);
-    m_zone.CloseBlock(6, 0);
-    m_zone.CloseBlock(10, 0);
-    EXPECT_EQ(Flags(), "02444024402400");
-
-    // The same set again keeps all closed.
     Rescan({{1, 4}, {6, 3}, {10, 2}});
+    Close({1, 6, 10});
     EXPECT_EQ(Flags(), "02444024402400");
-    EXPECT_EQ(Block(6)->m_bClosed, 1);
+    Rescan({{1, 4}, {6, 3}, {10, 2}});  // the same set keeps all closed
+    EXPECT_EQ(Flags(), "02444024402400");
 
     // 1 grows, 6 shrinks, 10 is gone and 12 is new.
     Rescan({{1, 5}, {6, 2}, {12, 2}});
     EXPECT_EQ(Flags(), "02444424000010");
-    EXPECT_EQ(Extents(m_zone.m_editBlocks),
-              (std::vector<std::pair<int, int>>{{1, 5}, {6, 2}, {12, 2}}));
-    EXPECT_EQ(Block(1)->m_bClosed, 1);
-    EXPECT_EQ(Block(12)->m_bClosed, 0);
+    EXPECT_EQ(Of(m_zone.m_editBlocks), (Extents{{1, 5}, {6, 2}, {12, 2}}));
     EXPECT_TRUE(m_zone.m_inputBlocks.empty());
 
     // A closed block that loses its head opens first: no line stays hidden.
     Rescan({{12, 2}});
     EXPECT_EQ(Flags(), "00000000000010");
-}
 
-TEST_F(EditBlockTest, RescanKeepsLinesHiddenUnderAClosedOuterBlock) {
-    SetLines(10);
+    // Under a closed outer block the inner one shrinks or goes: its lines stay hidden.
     Rescan({{1, 8}, {3, 4}});
-    EXPECT_EQ(Block(3)->m_pParent, Block(1));
-    m_zone.CloseBlock(3, 0);
-    m_zone.CloseBlock(1, 0);
-    EXPECT_EQ(Flags(), "0246444440");
-
-    // The inner block shrinks, or goes: its lines are still inside the closed outer one.
+    Close({3, 1});
+    EXPECT_EQ(Flags(), "02464444400000");
     Rescan({{1, 8}, {3, 2}});
-    EXPECT_EQ(Flags(), "0246444440");
+    EXPECT_EQ(Flags(), "02464444400000");
     Rescan({{1, 8}});
-    EXPECT_EQ(Flags(), "0244444440");
+    EXPECT_EQ(Flags(), "02444444400000");
     m_zone.OpenBlock(1, 0);
-    EXPECT_EQ(Flags(), "0100000000");
+    EXPECT_EQ(Flags(), "01000000000000");
 }
 
 TEST_F(EditBlockTest, RescanInputRules) {
@@ -209,62 +192,50 @@ TEST_F(EditBlockTest, RescanInputRules) {
     EXPECT_EQ(zone.AddEditBlockInput(4, 1), 1);   // less: no change
     EXPECT_EQ(zone.AddEditBlockInput(6, 1), 0);   // no such line
     EXPECT_EQ(zone.AddEditBlockInput(2, 1), 1);
-    EXPECT_EQ(Extents(zone.m_inputBlocks),
-              (std::vector<std::pair<int, int>>{{1, 5}, {2, 1}, {4, 2}}));
+    EXPECT_EQ(Of(zone.m_inputBlocks), (Extents{{1, 5}, {2, 1}, {4, 2}}));
     zone.EndEditBlockInput();
     EXPECT_EQ(zone.m_editBlocks.size(), 3u);
     // One redraw over all the heads that changed.
-    EXPECT_EQ(zone.m_redraws, (std::vector<std::pair<int, int>>{{1, 4}}));
+    EXPECT_EQ(zone.m_redraws, (Extents{{1, 4}}));
 
     // A rescan that changes nothing redraws nothing; an abandoned input is dropped.
     zone.m_redraws.clear();
     zone.BeginEditBlockInput();
     zone.AddEditBlockInput(0, 2);
     zone.BeginEditBlockInput();
-    zone.AddEditBlockInput(1, 5);
-    zone.AddEditBlockInput(2, 1);
-    zone.AddEditBlockInput(4, 2);
+    for (auto [nLine, nCount] : Extents{{1, 5}, {2, 1}, {4, 2}})
+        zone.AddEditBlockInput(nLine, nCount);
     zone.EndEditBlockInput();
     EXPECT_TRUE(zone.m_redraws.empty());
     EXPECT_EQ(zone.m_editBlocks.size(), 3u);
 }
 
-// How InsertLine and RemoveLines shift and cut blocks is the store's own
-// test; here the editing operations on top of them.
 TEST_F(EditBlockTest, EditsMoveAndCutBlocks) {
     SetLines(10);
     Rescan({{2, 1}, {6, 2}});
     m_zone.CloseBlock(6, 0);
-
     // Enter at the start of a head splits the line: the head keeps its line
-    // object and number; the closed block behind moves down, flags and all.
+    // and number; the closed block behind moves down, flags and all.
     m_zone.SetSelection(2, 2, 0, 0, 0, 0);
     m_zone.InsertText("new\r\n", 0, 1, 1);
-    EXPECT_EQ(Extents(m_zone.m_editBlocks), (std::vector<std::pair<int, int>>{{2, 1}, {7, 2}}));
+    EXPECT_EQ(Of(m_zone.m_editBlocks), (Extents{{2, 1}, {7, 2}}));
     EXPECT_EQ(Flags(), "00100002400");
     EXPECT_EQ(Line(7), "6\r");
-
     // Deleting into the second block's head destroys that block.
     m_zone.OpenBlock(7, 0);
     m_zone.SetSelection(2, 7, 1, 1, 0, 0);
     m_zone.DeleteSelection(0);
-    EXPECT_EQ(Extents(m_zone.m_editBlocks), (std::vector<std::pair<int, int>>{{2, 1}}));
-    EXPECT_EQ(Line(2), "n\r");
+    EXPECT_EQ(Of(m_zone.m_editBlocks), (Extents{{2, 1}}));
     EXPECT_EQ(Line(3), "7\r");
-}
 
-TEST_F(EditBlockTest, LinesOfAClosedBlockThatLosesItsHeadComeBack) {
+    // Joining a closed head into the line above takes its block away and its
+    // lines show again; another closed block keeps its own hidden.
     SetLines(10);
     Rescan({{2, 4}, {7, 3}});
-    m_zone.CloseBlock(2, 0);
-    m_zone.CloseBlock(7, 0);
-    EXPECT_EQ(Flags(), "0024440244");
-    // Joining the head into the line above takes the block with it; its
-    // lines show again, while the other closed block keeps its own hidden.
+    Close({2, 7});
     m_zone.SetSelection(1, 2, 1, 1, 0, 0);
     m_zone.DeleteSelection(0);
-    EXPECT_EQ(Line(1), "1\r");
-    EXPECT_EQ(Extents(m_zone.m_editBlocks), (std::vector<std::pair<int, int>>{{6, 3}}));
+    EXPECT_EQ(Of(m_zone.m_editBlocks), (Extents{{6, 3}}));
     EXPECT_EQ(Flags(), "000000244");
 }
 
@@ -273,11 +244,9 @@ TEST_F(EditBlockTest, ParentDestroyedUnderAClosedChild) {
     Rescan({{1, 8}, {3, 2}});
     CEditBlk* pInner = Block(3);
     m_zone.CloseBlock(1, 0);
-    EXPECT_EQ(pInner->IsClosed(), 1);
-    // The outer head goes; the inner block survives without its parent.
+    // The outer head goes; the inner block survives without its parent, open.
     m_zone.RemoveLines(1, 1);
-    ASSERT_EQ(m_zone.m_editBlocks.size(), 1u);
-    EXPECT_EQ(pInner, Block(2));
+    ASSERT_EQ(Of(m_zone.m_editBlocks), (Extents{{2, 2}}));
     EXPECT_EQ(pInner->m_pParent, nullptr);
     EXPECT_EQ(pInner->IsClosed(), 0);
     EXPECT_EQ(m_zone.CloseBlock(2, 0), 1);
@@ -286,10 +255,9 @@ TEST_F(EditBlockTest, ParentDestroyedUnderAClosedChild) {
 
 TEST_F(EditBlockTest, AlternateBlocks) {
     SetLines(12);
-    Rescan({{2, 6}});  // 2..7
-    EXPECT_EQ(m_zone.CreateClosedAltBlock(12, 2, 0), 0);
-    EXPECT_EQ(m_zone.CreateClosedAltBlock(3, 0, 0), 0);
-    EXPECT_TRUE(m_zone.m_altBlocks.empty());
+    Rescan({{2, 6}});                                     // 2..7
+    EXPECT_EQ(m_zone.CreateClosedAltBlock(12, 2, 0), 0);  // no such line
+    EXPECT_EQ(m_zone.CreateClosedAltBlock(3, 0, 0), 0);   // no lines
 
     EXPECT_EQ(m_zone.CreateClosedAltBlock(4, 2, 0), 1);
     EXPECT_EQ(Flags(), "001024000000");
@@ -301,15 +269,15 @@ TEST_F(EditBlockTest, AlternateBlocks) {
     // A shorter one replaces it; blocks that begin inside a new one give way.
     EXPECT_EQ(m_zone.CreateClosedAltBlock(10, 1, 0), 1);
     EXPECT_EQ(m_zone.CreateClosedAltBlock(3, 8, 0), 1);
-    EXPECT_EQ(Extents(m_zone.m_altBlocks), (std::vector<std::pair<int, int>>{{3, 8}}));
+    EXPECT_EQ(Of(m_zone.m_altBlocks), (Extents{{3, 8}}));
     EXPECT_EQ(Flags(), "001244444440");
 
-    // Closing the language's block merges with an alternate block that sticks out.
+    // Closing the language's block merges with an alternate block that sticks
+    // out; opening it gives the head back to the language's block.
     EXPECT_EQ(m_zone.CloseBlock(2, 0), 1);
-    EXPECT_EQ(Extents(m_zone.m_altBlocks), (std::vector<std::pair<int, int>>{{2, 9}}));
+    EXPECT_EQ(Of(m_zone.m_altBlocks), (Extents{{2, 9}}));
     EXPECT_EQ(Block(2)->m_bClosed, 0);
     EXPECT_EQ(Flags(), "002444444440");
-    // Opening it gives the head back to the language's block.
     EXPECT_EQ(m_zone.OpenBlock(2, 0), 1);
     EXPECT_TRUE(m_zone.m_altBlocks.empty());
     EXPECT_EQ(Flags(), "001000000000");
@@ -324,16 +292,12 @@ TEST_F(EditBlockTest, AlternateBlocks) {
     m_zone.CreateClosedAltBlock(9, 2, 0);
     EXPECT_EQ(m_zone.OpenBlock(9, 0), 1);
     EXPECT_EQ(Flags(), "001000000000");
-}
 
-TEST_F(EditBlockTest, FreeAllEditBlocksShowsEverything) {
-    SetLines(8);
-    m_zone.FreeAllEditBlocks();  // nothing there: nothing happens
-    Rescan({{1, 3}, {5, 2}});
-    m_zone.CloseBlock(1, 0);
-    m_zone.CreateClosedAltBlock(5, 3, 0);
+    // Freeing all blocks shows everything.
+    m_zone.CloseBlock(2, 0);
+    m_zone.CreateClosedAltBlock(9, 3, 0);
     m_zone.FreeAllEditBlocks();
-    EXPECT_EQ(Flags(), "00000000");
+    EXPECT_EQ(Flags(), "000000000000");
     EXPECT_TRUE(m_zone.m_editBlocks.empty());
     EXPECT_TRUE(m_zone.m_altBlocks.empty());
 }
@@ -344,32 +308,29 @@ TEST_F(EditBlockTest, CollapseAndExpandAtTheCaret) {
     m_zone.SetSelection(1, 1, 0, 0, 0, 0);
     m_zone.CollapseCurrentSel();  // block mode is off
     EXPECT_EQ(Flags(), "010000");
-
     m_zone.SetBlockMode(1);
-    m_zone.CollapseCurrentSel();
-    EXPECT_EQ(Flags(), "024400");
-    m_zone.ExpandCurrentSel();
-    EXPECT_EQ(Flags(), "010000");
-    m_zone.ExpandCurrentSel();  // both keys toggle the head
-    EXPECT_EQ(Flags(), "024400");
-
-    // Not with a selection, and not off a head.
-    m_zone.SetSelection(1, 1, 0, 1, 0, 0);
-    m_zone.ExpandCurrentSel();
-    EXPECT_EQ(Flags(), "024400");
-    m_zone.SetSelection(0, 0, 0, 0, 0, 0);
-    m_zone.ExpandCurrentSel();
-    EXPECT_EQ(Flags(), "024400");
+    // Both keys toggle the head; not with a selection, and not off a head.
+    const struct {
+        bool collapse;
+        int line, endChar;
+        const char* flags;
+    } steps[] = {{true, 1, 0, "024400"},
+                 {false, 1, 0, "010000"},
+                 {false, 1, 0, "024400"},
+                 {false, 1, 1, "024400"},
+                 {false, 0, 0, "024400"}};
+    for (const auto& st : steps) {
+        m_zone.SetSelection(st.line, st.line, 0, st.endChar, 0, 0);
+        st.collapse ? m_zone.CollapseCurrentSel() : m_zone.ExpandCurrentSel();
+        EXPECT_EQ(Flags(), st.flags) << st.line << "," << st.endChar;
+    }
 }
 
 TEST_F(EditBlockTest, StatusStringRoundTrip) {
     SetLines(12);
     Rescan({{1, 4}, {2, 2}, {7, 3}});
     EXPECT_EQ(Status(), Head() + "00000000");
-    ASSERT_EQ(Status().size(), 24u);
-
-    m_zone.CloseBlock(2, 0);
-    m_zone.CloseBlock(7, 0);
+    Close({2, 7});
     m_zone.CreateClosedAltBlock(10, 2, 0);
     const std::string saved = Status();
     EXPECT_EQ(saved, Head() + "00020001" + "000002" + "000007" + "00000A000002");
@@ -391,20 +352,17 @@ TEST_F(EditBlockTest, StatusStringRoundTrip) {
 TEST_F(EditBlockTest, StatusStringForAnotherTextOrMalformed) {
     SetLines(12);
     Rescan({{1, 4}, {7, 3}});
-    m_zone.CloseBlock(1, 0);
-    m_zone.CloseBlock(7, 0);
+    const std::string open = Flags();
+    Close({1, 7});
     const std::string saved = Status();
     m_zone.OpenBlock(1, 0);
     m_zone.OpenBlock(7, 0);
-    const std::string open = Flags();
 
     // Another text, or a check value changed: nothing happens.
     std::string wrong = saved;
     wrong[15] = wrong[15] == '0' ? '1' : '0';
-    ApplyStatus(wrong);
-    EXPECT_EQ(Flags(), open);
-    ApplyStatus("");
-    ApplyStatus("zz");
+    for (const std::string& status : {wrong, std::string(), std::string("zz")})
+        ApplyStatus(status);
     EXPECT_EQ(Flags(), open);
 
     // Cut short or spoilt inside the list: what was read applies, the rest not.
