@@ -104,8 +104,6 @@ TEST_F(CaretScrollTest, CaretShowsOnlyWithFocusNoSelectionAndInsideTheText) {
 TEST_F(CaretScrollTest, CaretMovesScrollByLinesOrJumpFromThreeLinesOn) {
     Load(100);
     Focus();
-    Caret(17, 0);
-    EXPECT_EQ(First(), 0);
     Peer().ClearLogs();
     Caret(19, 0);  // two lines below the view: two blits of a line
     EXPECT_EQ(First(), 2);

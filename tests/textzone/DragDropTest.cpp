@@ -104,13 +104,7 @@ TEST_F(DragDropTest, DragsStartOnAStreamSelectionAndDropsNeedAWritableZone) {
 }
 
 TEST_F(DragDropTest, ADragMovesOrWithCtrlCopiesWithinAndBetweenZones) {
-    struct Case {
-        CEditor* target;
-        POINT pt;
-        DWORD keys;
-        const char* a;
-        const char* b;
-    } cases[] = {
+    struct Case { CEditor* target; POINT pt; DWORD keys; const char* a; const char* b; } cases[] = {
         // On its own line the place is taken as it will be once the text has gone.
         {&m_a, At(m_a, 0, 13), 0, "one threetwo ", "abc"},
         {&m_a, At(m_a, 0, 0), MK_CONTROL, "two one two three", "abc"},

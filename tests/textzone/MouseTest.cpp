@@ -238,20 +238,18 @@ TEST_F(MouseTest, DraggingSelectedTextMovesItOrWithShiftCopiesIt) {
     Drag(At(0, 1), At(3, 1));
     EXPECT_EQ(Text(), "ab\r\ncc\r\nda\r\nbd\r\n");
     EXPECT_EQ(Sel(), "2,1-3,1");
-}
 
-TEST_F(MouseTest, ReadOnlyOrWithoutDraggingAPressOnTheSelectionSelects) {
-    ASSERT_TRUE(m_zone.SetText("one two three\r\n"));
+    // Read-only, or with dragging off, a press on the selection selects.
     m_zone.SetReadOnly(1);
-    m_zone.SetSelection(0, 0, 4, 8, 0, 0);
-    Drag(At(0, 6), At(0, 10));
-    EXPECT_EQ(Sel(), "0,6-0,10");
+    Drag(At(3, 0), At(2, 0));
+    EXPECT_EQ(Sel(), "2,0-3,0");
     m_zone.SetReadOnly(0);
     m_zone.SetDragDropFlag(0);
-    Down(At(0, 7));
+    m_zone.SetSelection(2, 3, 1, 1, 0, 0);
+    Down(At(3, 0));
     EXPECT_EQ(m_zone.m_nDragState, 0);
-    Up(At(0, 7));
-    EXPECT_EQ(Text(), "one two three\r\n");
+    Up(At(3, 0));
+    EXPECT_EQ(Text(), "ab\r\ncc\r\nda\r\nbd\r\n");
 }
 
 TEST_F(MouseTest, AutoScrollStepsAtMostEvery50MillisecondsWhileThePointerIsOutside) {
