@@ -47,6 +47,7 @@ protected:
     void Move(POINT pt, UINT nFlags = 0) { m_zone.HandleMouseMove(nFlags | MK_LBUTTON, &pt); }
     void Up(POINT pt, UINT nFlags = 0) { m_zone.HandleLButtonUp(nFlags, &pt); }
     void Click(POINT pt, UINT nFlags = 0) { Down(pt, nFlags), Up(pt, nFlags); }
+    void Drag(POINT from, POINT to) { Down(from), Move(to), Up(to); }
     void DblClk(POINT pt) { m_zone.HandleLButtonDblClk(MK_LBUTTON, &pt); }
 
     // Delivers the moves that auto-scroll posted, as the message loop would.
@@ -60,30 +61,24 @@ protected:
         return static_cast<int>(posted.size());
     }
 
-    std::string Text() {
-        std::vector<char> buffer(static_cast<size_t>(m_zone.GetTextLength(TF_CRLF)) + 8, 0);
-        m_zone.GetText(buffer.data(), static_cast<LONG>(buffer.size()), TF_CRLF);
+    std::string Text(bool bSelected = false) {
+        LONG n = (bSelected ? m_zone.GetSelectedTextLength(TF_CRLF) : m_zone.GetTextLength(TF_CRLF)) + 8;
+        std::vector<char> buffer(static_cast<size_t>(n), 0);
+        if (bSelected) m_zone.GetSelectedText(buffer.data(), n, TF_CRLF);
+        else m_zone.GetText(buffer.data(), n, TF_CRLF);
         return buffer.data();
     }
-    std::string Selected() {
-        std::vector<char> buffer(static_cast<size_t>(m_zone.GetSelectedTextLength(TF_CRLF)) + 8);
-        m_zone.GetSelectedText(buffer.data(), static_cast<LONG>(buffer.size()), TF_CRLF);
-        return buffer.data();
-    }
-    void ExpectSelection(int nStartLine, int nStartChar, int nEndLine, int nEndChar) {
-        EXPECT_EQ(m_zone.m_nSelStartLine, nStartLine);
-        EXPECT_EQ(m_zone.m_nSelStartChar, nStartChar);
-        EXPECT_EQ(m_zone.m_nSelEndLine, nEndLine);
-        EXPECT_EQ(m_zone.m_nSelEndChar, nEndChar);
+    // "startLine,startChar-endLine,endChar"
+    std::string Sel() {
+        return std::to_string(m_zone.m_nSelStartLine) + "," + std::to_string(m_zone.m_nSelStartChar) + "-" +
+               std::to_string(m_zone.m_nSelEndLine) + "," + std::to_string(m_zone.m_nSelEndChar);
     }
     void LoadNumberedLines(int nLines) {
         std::string text;
         for (int i = 0; i < nLines; ++i)
             text += "line " + std::to_string(i) + "\r\n";
         ASSERT_TRUE(m_zone.SetText(text.c_str()));
-        // Loading leaves the caret, and the view, at the end.
-        m_zone.SetSelection(0, 0, 0, 0, 0, 1);
-        ASSERT_EQ(m_zone.GetVScrollOffset(), 0);
+        m_zone.SetSelection(0, 0, 0, 0, 0, 1);  // loading left the view at the end
         m_zone.m_scrolls.clear();
     }
     int Cursor() const { return m_platform.GetCurrentCursorId(); }
@@ -98,32 +93,25 @@ TEST_F(MouseTest, PressMoveAndReleaseSelectFromThePressPoint) {
     ASSERT_TRUE(m_zone.SetText("hello world\r\nsecond line\r\nthird\r\n"));
     Down(At(0, 2));
     EXPECT_EQ(CWnd::GetCapture(), &m_wnd);
-    Move(At(1, 4));
-    ExpectSelection(0, 2, 1, 4);
     Move(At(0, 0));  // above the press point, which stays the fixed end
-    ExpectSelection(0, 0, 0, 2);
+    EXPECT_EQ(Sel(), "0,0-0,2");
     Move(At(2, 3));
     Up(At(2, 3));
     EXPECT_EQ(CWnd::GetCapture(), nullptr);
     EXPECT_FALSE(m_zone.m_bMouseSelecting);
-    EXPECT_EQ(Selected(), "llo world\r\nsecond line\r\nthi");
+    EXPECT_EQ(Text(true), "llo world\r\nsecond line\r\nthi");
 
-    // Shift extends from the root.
-    Click(At(0, 1), MK_SHIFT);
-    ExpectSelection(0, 1, 0, 2);
-    EXPECT_EQ(m_zone.GetSelRootChar(), 2);
+    Click(At(0, 1), MK_SHIFT);  // extends from the root
+    EXPECT_EQ(Sel(), "0,1-0,2");
 
     // The nearer byte boundary wins, a tie going right; right of a line's
     // end is its end, below the text the place behind it.
-    Click(POINT{100, 40});
-    Click(POINT{27, 8});
-    ExpectSelection(0, 3, 0, 3);
-    Click(POINT{28, 8});
-    ExpectSelection(0, 4, 0, 4);
-    Click(POINT{390, 40});
-    ExpectSelection(2, 5, 2, 5);
-    Click(POINT{100, 250});
-    ExpectSelection(3, 0, 3, 0);
+    const std::pair<POINT, const char*> places[] = {
+        {{27, 8}, "0,3-0,3"}, {{28, 8}, "0,4-0,4"}, {{390, 40}, "2,5-2,5"}, {{100, 250}, "3,0-3,0"}};
+    for (const auto& [pt, sel] : places) {
+        Click(pt);
+        EXPECT_EQ(Sel(), sel) << pt.x << "," << pt.y;
+    }
 
     // Moves after the capture was lost, or without the button, select nothing.
     Down(At(0, 2));
@@ -135,44 +123,36 @@ TEST_F(MouseTest, PressMoveAndReleaseSelectFromThePressPoint) {
     m_zone.HandleMouseMove(0, &pt);
     Move(At(1, 6));
     Up(At(1, 6));
-    ExpectSelection(0, 2, 0, 2);
+    EXPECT_EQ(Sel(), "0,2-0,2");
 }
 
-TEST_F(MouseTest, AltDragSelectsABoxFromThePressColumn) {
+TEST_F(MouseTest, AltDragSelectsABoxUnlessBlocksAreOffOrTheFontIsProportional) {
     ASSERT_TRUE(m_zone.SetText("abcdefgh\r\nab\r\nabcdefgh\r\n"));
     m_platform.SetKeyState(VK_MENU, true);
-    Down(At(0, 2));
-    Move(At(2, 5));
-    Up(At(2, 5));
+    Drag(At(0, 2), At(2, 5));
     EXPECT_EQ(m_zone.GetSelectionMode(), 2);
-    EXPECT_EQ(Selected(), "cde\r\n   \r\ncde\r\n");
+    EXPECT_EQ(Text(true), "cde\r\n   \r\ncde\r\n");
 
     // Pressed beyond a short line's end, the box starts at that column, and
     // back at no width the caret returns to a byte of its line.
     Down(At(1, 6));
-    ExpectSelection(1, 2, 1, 2);
     Move(At(2, 8));
-    ExpectSelection(1, 6, 2, 8);
+    EXPECT_EQ(Sel(), "1,6-2,8");
     Move(At(1, 6));
     Up(At(1, 6));
-    ExpectSelection(1, 2, 1, 2);
+    EXPECT_EQ(Sel(), "1,2-1,2");
 
-    // Under SetNoBlockFlag, or with a proportional font, the same is a stream.
     m_zone.SetSelectionMode(1);
     m_zone.SetNoBlockFlag(1);
-    Down(At(0, 2));
-    Move(At(1, 1));
-    Up(At(1, 1));
+    Drag(At(0, 2), At(1, 1));
     EXPECT_EQ(m_zone.GetSelectionMode(), 1);
-    ExpectSelection(0, 2, 1, 1);
+    EXPECT_EQ(Sel(), "0,2-1,1");
     m_zone.SetNoBlockFlag(0);
     LOGFONTA lf = CHeadlessFonts::MakeFont(CHeadlessFonts::kProportionalFace, 16);
     CFont proportional;
     proportional.CreateFontIndirect(&lf);
     m_zone.SetFont(proportional);
-    Down(POINT{4, 8});
-    Move(POINT{60, 24});
-    Up(POINT{60, 24});
+    Drag(POINT{4, 8}, POINT{60, 24});
     EXPECT_EQ(m_zone.GetSelectionMode(), 1);
     m_zone.SetFont(m_font);
     m_platform.SetKeyState(VK_MENU, false);
@@ -181,20 +161,16 @@ TEST_F(MouseTest, AltDragSelectsABoxFromThePressColumn) {
 TEST_F(MouseTest, DoubleClickSelectsAWordOrOneOtherByte) {
     ASSERT_TRUE(m_zone.SetText("int #x_1 = a+b;  \r\nabc def\r\ncaf\xC3\xA9 x\r\n"));
     m_zone.SetSelectionMode(2);
-    DblClk(At(0, 6));
+    // Punctuation or a blank with no word before: that byte; at a word's end
+    // the word; beyond a line's end its last word.
+    const std::pair<POINT, const char*> cases[] = {
+        {At(0, 6), "0,4-0,8"},  {At(0, 9), "0,9-0,10"}, {At(0, 16), "0,16-0,17"}, {At(0, 14), "0,13-0,14"},
+        {At(1, 20), "1,4-1,7"}, {At(2, 1), "2,0-2,5"}};
+    for (const auto& [pt, sel] : cases) {
+        DblClk(pt);
+        EXPECT_EQ(Sel(), sel) << pt.x << "," << pt.y;
+    }
     EXPECT_EQ(m_zone.GetSelectionMode(), 1);
-    EXPECT_EQ(Selected(), "#x_1");
-    // Punctuation or a blank with no word before: that one byte.
-    DblClk(At(0, 9));
-    EXPECT_EQ(Selected(), "=");
-    DblClk(At(0, 16));
-    ExpectSelection(0, 16, 0, 17);
-    DblClk(At(0, 14));  // at a word's end, the word
-    EXPECT_EQ(Selected(), "b");
-    DblClk(At(1, 20));  // beyond the line's end, its last word
-    ExpectSelection(1, 4, 1, 7);
-    DblClk(At(2, 1));
-    EXPECT_EQ(Selected(), "caf\xC3\xA9");
     DblClk(At(3, 2));  // on the place behind the text: nothing
     EXPECT_FALSE(m_zone.TestSelection());
 }
@@ -203,12 +179,11 @@ TEST_F(MouseTest, APressOnABlockMarkInTheMarginTogglesTheBlock) {
     ASSERT_TRUE(m_zone.SetText("0\r\n1\r\n2\r\n3\r\n4\r\n"));
     m_zone.SetMarginMode(1);
     ASSERT_EQ(m_zone.SetEditBlock(1, 3), 1);
-    // The mark spans the right three quarters of a line's height of the
-    // 16-pixel margin.
+    // The mark spans the right three quarters of the 16-pixel margin.
     Click(POINT{3, 24});
     EXPECT_EQ(m_zone.GetLine(1)->m_dwBlockFlags, 2u);
     EXPECT_EQ(m_zone.GetLineHeight(2), 0);
-    ExpectSelection(1, 0, 1, 0);
+    EXPECT_EQ(Sel(), "1,0-1,0");
     Click(POINT{2, 24});
     m_platform.SetKeyState(VK_CONTROL, true);
     Click(POINT{12, 24});
@@ -216,7 +191,6 @@ TEST_F(MouseTest, APressOnABlockMarkInTheMarginTogglesTheBlock) {
     EXPECT_EQ(m_zone.GetLine(1)->m_dwBlockFlags, 2u);
     Click(POINT{15, 24});
     EXPECT_EQ(m_zone.GetLine(1)->m_dwBlockFlags, 1u);
-    EXPECT_EQ(Text(), "0\r\n1\r\n2\r\n3\r\n4\r\n");
 }
 
 TEST_F(MouseTest, DraggingSelectedTextMovesItOrWithShiftCopiesIt) {
@@ -224,7 +198,6 @@ TEST_F(MouseTest, DraggingSelectedTextMovesItOrWithShiftCopiesIt) {
     m_zone.SetSelection(0, 0, 4, 8, 0, 0);
     Down(At(0, 5));
     Move(At(0, 6));
-    EXPECT_EQ(m_zone.m_nDragState, 2);
     EXPECT_EQ(Cursor(), IDC_NO);  // over the selection itself
     Move(At(0, 13));
     EXPECT_EQ(Cursor(), 32);
@@ -232,11 +205,10 @@ TEST_F(MouseTest, DraggingSelectedTextMovesItOrWithShiftCopiesIt) {
     // once the text has gone.
     Up(At(0, 13));
     EXPECT_EQ(Text(), "one threetwo \r\n");
-    EXPECT_EQ(Selected(), "two ");
+    EXPECT_EQ(Text(true), "two ");
     EXPECT_EQ(Cursor(), IDC_IBEAM);
     EXPECT_EQ(CWnd::GetCapture(), nullptr);
     m_zone.Undo();
-    EXPECT_EQ(Text(), "one two three\r\n");
 
     m_zone.SetSelection(0, 0, 4, 8, 0, 0);
     Down(At(0, 5));
@@ -256,36 +228,28 @@ TEST_F(MouseTest, DraggingSelectedTextMovesItOrWithShiftCopiesIt) {
     EXPECT_EQ(m_zone.m_scrolls, (Scrolls{{'V', SB_LINEDOWN}}));
     Up(POINT{100, 320});
     EXPECT_EQ(Text(), "two one two three\r\n");
-    ExpectSelection(0, 4, 0, 8);
-    // A click that never moved places the caret.
-    Click(At(0, 6));
-    ExpectSelection(0, 6, 0, 6);
-}
+    EXPECT_EQ(Sel(), "0,4-0,8");
+    Click(At(0, 6));  // a click that never moved places the caret
+    EXPECT_EQ(Sel(), "0,6-0,6");
 
-TEST_F(MouseTest, AMoveDownwardsAcrossLinesLandsWhereThePointerWas) {
+    // Moved down across lines, it lands where the pointer was.
     ASSERT_TRUE(m_zone.SetText("aa\r\nbb\r\ncc\r\ndd\r\n"));
     m_zone.SetSelection(0, 1, 1, 1, 0, 0);
-    Down(At(0, 1));
-    Move(At(3, 1));
-    Up(At(3, 1));
+    Drag(At(0, 1), At(3, 1));
     EXPECT_EQ(Text(), "ab\r\ncc\r\nda\r\nbd\r\n");
-    ExpectSelection(2, 1, 3, 1);
-}
+    EXPECT_EQ(Sel(), "2,1-3,1");
 
-TEST_F(MouseTest, ReadOnlyOrWithoutDraggingAPressOnTheSelectionSelects) {
-    ASSERT_TRUE(m_zone.SetText("one two three\r\n"));
+    // Read-only, or with dragging off, a press on the selection selects.
     m_zone.SetReadOnly(1);
-    m_zone.SetSelection(0, 0, 4, 8, 0, 0);
-    Down(At(0, 6));
-    Move(At(0, 10));
-    Up(At(0, 10));
-    ExpectSelection(0, 6, 0, 10);
+    Drag(At(3, 0), At(2, 0));
+    EXPECT_EQ(Sel(), "2,0-3,0");
     m_zone.SetReadOnly(0);
     m_zone.SetDragDropFlag(0);
-    Down(At(0, 7));
+    m_zone.SetSelection(2, 3, 1, 1, 0, 0);
+    Down(At(3, 0));
     EXPECT_EQ(m_zone.m_nDragState, 0);
-    Up(At(0, 7));
-    EXPECT_EQ(Text(), "one two three\r\n");
+    Up(At(3, 0));
+    EXPECT_EQ(Text(), "ab\r\ncc\r\nda\r\nbd\r\n");
 }
 
 TEST_F(MouseTest, AutoScrollStepsAtMostEvery50MillisecondsWhileThePointerIsOutside) {
@@ -296,20 +260,22 @@ TEST_F(MouseTest, AutoScrollStepsAtMostEvery50MillisecondsWhileThePointerIsOutsi
     // The move comes back with the same flags and point.
     std::vector<MSG> posted = m_platform.GetPostedMessages();
     ASSERT_EQ(posted.size(), 1u);
-    EXPECT_EQ(posted[0].message, WM_MOUSEMOVE);
-    EXPECT_EQ(posted[0].wParam, static_cast<WPARAM>(MK_LBUTTON));
-    EXPECT_EQ(posted[0].lParam, MAKELPARAM(40, 310));
-    // Below the text the selection reaches the last whole line in view.
-    EXPECT_EQ(m_zone.GetSelMobileLine(), 17 + m_zone.GetVScrollOffset() / 16);
+    EXPECT_TRUE(posted[0].message == WM_MOUSEMOVE && posted[0].wParam == static_cast<WPARAM>(MK_LBUTTON) &&
+                posted[0].lParam == MAKELPARAM(40, 310));
 
     m_zone.m_scrolls.clear();
     EXPECT_EQ(DeliverPostedMoves(), 1);
     m_platform.AdvanceTickCount(50);
     EXPECT_EQ(DeliverPostedMoves(), 1);
     EXPECT_TRUE(m_zone.m_scrolls.empty());
-    m_platform.AdvanceTickCount(1);
-    EXPECT_EQ(DeliverPostedMoves(), 1);
-    EXPECT_EQ(m_zone.m_scrolls.size(), 1u);
+    for (int ms : {1, 51, 51}) {
+        m_platform.AdvanceTickCount(ms);
+        EXPECT_EQ(DeliverPostedMoves(), 1);
+    }
+    // One line a step, the selection on the last whole line in view.
+    EXPECT_EQ(m_zone.m_scrolls.size(), 3u);
+    EXPECT_EQ(m_zone.GetVScrollOffset(), 4 * 16);
+    EXPECT_EQ(m_zone.GetSelMobileLine(), 21);
 
     // Sideways two steps, above one; a waiting mouse message is not doubled.
     m_zone.m_scrolls.clear();
@@ -325,9 +291,7 @@ TEST_F(MouseTest, AutoScrollStepsAtMostEvery50MillisecondsWhileThePointerIsOutsi
                                          {'V', SB_LINEUP}}));
     EXPECT_EQ(m_platform.GetPostedMessages().size(), 1u);
 
-    // Back inside nothing is posted, and after the release a stray move
-    // ends the loop.
-    m_zone.m_scrolls.clear();
+    // Back inside nothing is posted; after the release a stray move ends the loop.
     m_platform.ClearPostedMessages();
     m_platform.AdvanceTickCount(100);
     Move(At(3, 2));
@@ -337,20 +301,5 @@ TEST_F(MouseTest, AutoScrollStepsAtMostEvery50MillisecondsWhileThePointerIsOutsi
     m_zone.m_scrolls.clear();
     m_platform.AdvanceTickCount(100);
     EXPECT_EQ(DeliverPostedMoves(), 1);
-    EXPECT_TRUE(m_zone.m_scrolls.empty());
-    EXPECT_TRUE(m_platform.GetPostedMessages().empty());
-}
-
-TEST_F(MouseTest, HoldingThePointerBelowScrollsTheSelectionOn) {
-    LoadNumberedLines(40);
-    Down(At(0, 1));
-    Move(POINT{40, 310});
-    for (int i = 0; i < 3; ++i) {
-        m_platform.AdvanceTickCount(60);
-        DeliverPostedMoves();
-    }
-    // One line a step: the first move's and three more.
-    EXPECT_EQ(m_zone.GetVScrollOffset(), 4 * 16);
-    EXPECT_EQ(m_zone.GetSelMobileLine(), 21);
-    Up(POINT{40, 310});
+    EXPECT_TRUE(m_zone.m_scrolls.empty() && m_platform.GetPostedMessages().empty());
 }

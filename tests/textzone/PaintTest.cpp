@@ -25,26 +25,22 @@ protected:
         m_zone.SetColors(kText, kBack, kSelText, kSelBack);
     }
 
-    // Paints the whole zone, or only what is pending.
     void Paint(bool bWhole = true) {
         if (bWhole) m_wnd.InvalidateRect(nullptr, FALSE);
         Peer().ClearDisplayList();
         PAINTSTRUCT ps;
-        CDC* pDC = m_wnd.BeginPaint(&ps);
-        m_zone.HandlePaint(pDC);
+        m_zone.HandlePaint(m_wnd.BeginPaint(&ps));
         m_wnd.EndPaint(&ps);
     }
 
-    // The text runs of a line's row (16 pixels a row), "[...]" for the
-    // selected ones: "ab|[cd]". Unselected runs must be in the line colours.
+    // A row's text runs, "ab|[cd]" with the selected ones bracketed; the
+    // others must be in the line colours.
     std::string Row(int nLine, COLORREF crText = kText, COLORREF crBack = kBack) {
         std::string s;
         for (const DrawRecord& r : Peer().GetDisplayList()) {
             if (r.kind != DrawRecord::Text || r.rc.top != nLine * 16) continue;
             bool selected = r.crBk == kSelBack && r.crText == kSelText;
-            if (!selected) {
-                EXPECT_TRUE(r.crBk == crBack && r.crText == crText) << r.text;
-            }
+            EXPECT_TRUE(selected || (r.crBk == crBack && r.crText == crText)) << r.text;
             s += (s.empty() ? "" : "|") + (selected ? "[" + r.text + "]" : r.text);
         }
         return s;
@@ -64,10 +60,10 @@ protected:
         return fills;
     }
 
-    const DrawRecord* First(DrawRecord::Kind kind, int nLine) {
+    int TextLeft(int nLine) {
         for (const DrawRecord& r : Peer().GetDisplayList())
-            if (r.kind == kind && r.rc.top >= nLine * 16 && r.rc.top < nLine * 16 + 16) return &r;
-        return nullptr;
+            if (r.kind == DrawRecord::Text && r.rc.top == nLine * 16) return r.rc.left;
+        return -1;
     }
 };
 
@@ -77,12 +73,10 @@ TEST_F(PaintTest, LinesGoOutInTheZoneColoursAndFillTheirRows) {
     ASSERT_TRUE(m_zone.SetText("abc\r\n\tx\r\nlast"));
     Paint();
     EXPECT_EQ(Row(0), "abc");
-    EXPECT_EQ(First(DrawRecord::Text, 1)->rc.left, 20);  // a tab width of 0 steps 20 pixels
-    // Rows are wiped to their exact height, then the rest filled beyond the edge.
+    EXPECT_EQ(TextLeft(1), 20);  // a tab width of 0 steps 20 pixels
+    // Rows are wiped to their height, then filled beyond the text; below the text only background.
     EXPECT_EQ(Fills(1, RGB(255, 255, 255)), Strings{"0,16,400,32"});
     EXPECT_EQ(Fills(0, kBack), Strings{"24,0,400,16"});
-    // The phantom line and the empty places below are background only.
-    EXPECT_EQ(Row(3), "");
     EXPECT_EQ(Fills(3, kBack), Strings{"0,48,400,64"});
     EXPECT_EQ(Fills(18, kBack), Strings{"0,288,400,304"});
 }
@@ -96,11 +90,9 @@ TEST_F(PaintTest, BookmarksColourTheLineAndDarkColoursTurnTheTextWhite) {
     Paint();
     EXPECT_EQ(Row(0, kText, m_zone.GetBookmarkColor(3)), "one");
     EXPECT_EQ(Fills(0, m_zone.GetBookmarkColor(3)), Strings{"24,0,400,16"});
-    EXPECT_EQ(Row(1), "two");
     EXPECT_EQ(Row(2, RGB(255, 255, 255), RGB(0x80, 0x80, 0x80)), "three");
 
-    // One step lighter in one byte is no longer dark.
-    m_zone.SetBookmarkColor(RGB(0x81, 0, 0), 5);
+    m_zone.SetBookmarkColor(RGB(0x81, 0, 0), 5);  // one step lighter is no longer dark
     Paint();
     EXPECT_EQ(Row(2, kText, RGB(0x81, 0, 0)), "three");
     Peer().ClearInvalidations();
@@ -108,57 +100,37 @@ TEST_F(PaintTest, BookmarksColourTheLineAndDarkColoursTurnTheTextWhite) {
     EXPECT_TRUE(Peer().GetInvalidations().empty());
 }
 
-TEST_F(PaintTest, StreamSelectionSwapsColoursAtItsEnds) {
-    ASSERT_TRUE(m_zone.SetText("abcdef\r\nghij\r\nklm\r\nnop\r\nqrs"));
-    // To line 4 index 0: nothing of line 4 is selected.
-    m_zone.SetSelection(1, 4, 2, 0, 0, 0);
-    Paint();
-    EXPECT_EQ(Row(0) + " " + Row(1) + " " + Row(2) + " " + Row(4), "abcdef gh|[ij] [klm] qrs");
-    // A selected line end shows as one character's block.
-    EXPECT_EQ(Fills(1, kSelBack), Strings{"32,16,40,32"});
-    EXPECT_TRUE(Fills(4, kSelBack).empty());
-    m_zone.SetStyle(ZS_SELTOEDGE);
-    Paint();
-    EXPECT_EQ(Fills(2, kSelBack), Strings{"24,32,400,48"});
-
-    // Within one line; from a line's end, where only the line end is selected.
-    m_zone.SetStyle(0);
-    m_zone.SetSelection(1, 1, 1, 3, 0, 0);
-    Paint();
-    EXPECT_EQ(Row(1), "g|[hi]|j");
-    EXPECT_TRUE(Fills(1, kSelBack).empty());
-    m_zone.SetSelection(0, 1, 6, 1, 0, 0);
-    Paint();
-    EXPECT_EQ(Row(0) + " " + Row(1), "abcdef [g]|hij");
-    EXPECT_EQ(Fills(0, kSelBack), Strings{"48,0,56,16"});
-
-    // A free caret's selection beyond the text is drawn over padding.
-    m_zone.SetStyle(ZS_FREECARET);  // brings ZS_SELTOEDGE along
-    m_zone.SetSelection(3, 4, 5, 6, 0, 0);
-    Paint();
-    EXPECT_EQ(Row(3) + " " + Row(4), "nop  |[  ] [qrs   ]| ");
-    EXPECT_EQ(Fills(3, kSelBack), Strings{"56,48,400,64"});
-}
-
-TEST_F(PaintTest, BoxSelectionSelectsColumnsAndWithoutWidthShowsABar) {
-    ASSERT_TRUE(m_zone.SetText("abcdef\r\nab\r\na\tb\r\nxyz"));
+TEST_F(PaintTest, SelectionsSwapColoursOverTheirBytesColumnsOrPadding) {
+    // A selected line end shows as one character's block, to the edge under
+    // ZS_SELTOEDGE, which a free caret brings along; a box pads short lines
+    // and tabs, and without width is a 2-pixel bar over its column.
+    const char* stream = "abcdef\r\nghij\r\nklm\r\nnop\r\nqrs";
+    const char* box = "abcdef\r\nab\r\na\tb\r\nxyz";
+    struct Case {
+        const char* text;
+        int sel[5];
+        DWORD style;
+        const char* rows;
+        int fillLine;
+        Strings fill;
+    } cases[] = {
+        {stream, {1, 4, 2, 0, 0}, 0, "abcdef gh|[ij] [klm] [nop] qrs", 1, {"32,16,40,32"}},
+        {stream, {1, 4, 2, 0, 0}, ZS_SELTOEDGE, "abcdef gh|[ij] [klm] [nop] qrs", 2, {"24,32,400,48"}},
+        {stream, {1, 1, 1, 3, 0}, 0, "abcdef g|[hi]|j klm nop qrs", 1, {}},
+        {stream, {0, 1, 6, 1, 0}, 0, "abcdef [g]|hij klm nop qrs", 0, {"48,0,56,16"}},
+        {stream, {3, 4, 5, 6, 0}, ZS_FREECARET, "abcdef ghij klm nop  |[  ] [qrs   ]| ", 3, {"56,48,400,64"}},
+        {box, {0, 2, 1, 4, 2}, 0, "a|[bcd]|ef a|[b  ]|  a|[   ]|b xyz ", 1, {}},
+        {box, {0, 2, 2, 2, 2}, 0, "ab|cdef ab|  a |  b xyz ", 2, {"15,32,17,48"}},
+    };
     m_zone.SetTabWidth(-4);
-    // Columns 1 to 4; short lines are padded, tabs are the spaces they make.
-    m_zone.SetSelection(0, 2, 1, 4, 2, 0);
-    Paint();
-    EXPECT_EQ(Row(0) + " " + Row(1) + " " + Row(2) + " " + Row(3),
-              "a|[bcd]|ef a|[b  ]|  a|[   ]|b xyz");
-    EXPECT_TRUE(Fills(1, kSelBack).empty());
-    m_zone.SetSelection(0, 1, 0, 2, 2, 0);
-    Paint();
-    EXPECT_EQ(Row(0), "[ab]|cdef");
-
-    // A box of no width is the box caret: a 2-pixel bar over its column.
-    m_zone.SetSelection(0, 2, 2, 2, 2, 0);
-    Paint();
-    EXPECT_EQ(Row(0), "ab|cdef");
-    EXPECT_EQ(Fills(0, kSelBack), Strings{"15,0,17,16"});
-    EXPECT_EQ(Fills(2, kSelBack), Strings{"15,32,17,48"});
+    for (const Case& c : cases) {
+        ASSERT_TRUE(m_zone.SetText(c.text));
+        m_zone.SetStyle(c.style);
+        m_zone.SetSelection(c.sel[0], c.sel[1], c.sel[2], c.sel[3], c.sel[4], 0);
+        Paint();
+        EXPECT_EQ(Row(0) + " " + Row(1) + " " + Row(2) + " " + Row(3) + " " + Row(4), c.rows);
+        EXPECT_EQ(Fills(c.fillLine, kSelBack), c.fill) << c.rows;
+    }
 }
 
 TEST_F(PaintTest, LongLineGoesOutInPiecesWithoutAGap) {
@@ -178,7 +150,7 @@ TEST_F(PaintTest, LongLineGoesOutInPiecesWithoutAGap) {
     for (const DrawRecord& r : Peer().GetDisplayList())
         if (r.kind == DrawRecord::Text) runs.push_back(&r);
     ASSERT_EQ(runs.size(), 4u);
-    EXPECT_EQ(runs[0]->rc.right, at(1024));
+    EXPECT_EQ(runs[0]->rc.right, runs[1]->rc.left);
     EXPECT_EQ(runs[1]->rc.left, at(1024));
     EXPECT_EQ(runs[1]->text, line.substr(1024, 6));
     // The tab in the second piece steps from the line's start.
@@ -190,12 +162,11 @@ TEST_F(PaintTest, LongLineGoesOutInPiecesWithoutAGap) {
 
 TEST_F(PaintTest, MarginShowsBookmarksAsMarksOrImages) {
     ASSERT_TRUE(m_zone.SetText("one\r\ntwo"));
-    EXPECT_EQ(m_zone.GetMarginWidth(), 0);  // 16 is kept, but only margin mode shows it
     m_zone.GetLine(0)->m_dwBookmarks = 0x9;
     m_zone.SetMarginMode(1);
     Paint();
     // The text moves right of the margin; the line keeps its background.
-    EXPECT_EQ(First(DrawRecord::Text, 0)->rc.left, 16);
+    EXPECT_EQ(TextLeft(0), 16);
     EXPECT_EQ(Row(0), "one");
     EXPECT_EQ(Fills(0, 0xC0C0C0), Strings{"0,0,16,16"});
     Strings marks;
@@ -212,10 +183,10 @@ TEST_F(PaintTest, MarginShowsBookmarksAsMarksOrImages) {
         images.Add(std::vector<DWORD>(256, 0xFF000000u + i));
     m_zone.SetMarginModeImageList(&images);
     Paint();
-    Strings drawn;
+    marks.clear();
     for (const DrawRecord& r : Peer().GetDisplayList())
-        if (r.kind == DrawRecord::Image) drawn.push_back(std::to_string(r.nImage) + "@" + Box(r.rc));
-    EXPECT_EQ(drawn, (Strings{"0@0,4,16,20", "3@0,4,16,20"}));
+        if (r.kind == DrawRecord::Image) marks.push_back(std::to_string(r.nImage) + "@" + Box(r.rc));
+    EXPECT_EQ(marks, (Strings{"0@0,4,16,20", "3@0,4,16,20"}));
     m_zone.SetMarginModeImageList(nullptr);
 }
 
@@ -236,7 +207,6 @@ TEST_F(PaintTest, RedrawLinesInvalidatesTheirRowsAndAPaintDrawsOnlyThose) {
     EXPECT_EQ(redraw(2, 3), "0,32,400,64");
     EXPECT_EQ(redraw(5, TZ_TO_END), "0,80,400,300");
     EXPECT_EQ(redraw(30, 40), "none");
-
     // Rows follow the scroll position; a paint of one row draws that line only.
     m_zone.SetFirstVisiblePosition(10, 0);
     m_wnd.ValidateRect(nullptr);
@@ -247,8 +217,7 @@ TEST_F(PaintTest, RedrawLinesInvalidatesTheirRowsAndAPaintDrawsOnlyThose) {
         EXPECT_EQ(Box(r.rcClipBox), "0,32,400,48");
     EXPECT_EQ(Row(2), "line 12");
 
-    // Redraw off stops both requests until it is on again.
-    int paints = Peer().GetPaintCount();
+    int paints = Peer().GetPaintCount();  // redraw off stops both requests until it is on
     m_zone.SetRedraw(0);
     EXPECT_EQ(redraw(10, 12), "none");
     m_zone.RedrawTextZone();
