@@ -123,13 +123,9 @@ TEST_F(DrawingTest, TextIsDrawnInTheTextColourWithinItsMeasuredCell) {
 }
 
 TEST_F(DrawingTest, WidthsAreSumsOfIntegerByteAdvancesInEveryFont) {
-    const LOGFONTA fonts[] = {
-        Font("Courier New", -13),
-        Font("Arial", -15),
-        Font("Arial", -15, FW_BOLD),
-        Font("Times New Roman", 18),
-        Font("", 0, FW_NORMAL, FIXED_PITCH | FF_MODERN),
-    };
+    const LOGFONTA fonts[] = {Font("Courier New", -13), Font("Arial", -15),
+                              Font("Arial", -15, FW_BOLD), Font("Times New Roman", 18),
+                              Font("", 0, FW_NORMAL, FIXED_PITCH | FF_MODERN)};
     std::unique_ptr<CDC> dc = Display();
     ASSERT_NE(dc, nullptr);
     const char* text = "Wil\xE9\x80 fi ff AV To.\x97";
