@@ -11,11 +11,33 @@
 
 namespace {
 
-using DrawingTest = QtFixture;
-
 constexpr COLORREF kRed = RGB(255, 0, 0);
 constexpr COLORREF kBlue = RGB(0, 0, 255);
 constexpr COLORREF kWhite = RGB(255, 255, 255);
+constexpr COLORREF kBlack = RGB(0, 0, 0);
+
+class DrawingTest : public QtFixture {
+protected:
+    // The window's context, cleared to white.
+    CDC* WhiteDC() {
+        CDC* dc = m_wnd.GetDC();
+        dc->FillSolidRect(0, 0, 400, 300, kWhite);
+        return dc;
+    }
+    static std::unique_ptr<CDC> Display() {
+        return std::unique_ptr<CDC>(CreateDCA("DISPLAY", nullptr, nullptr, nullptr));
+    }
+    struct Probe {
+        int x, y;
+        COLORREF cr;
+    };
+    void ExpectPixels(std::initializer_list<Probe> probes) {
+        const QImage& image = Image();
+        for (const Probe& p : probes)
+            EXPECT_EQ(Pixel(image, p.x, p.y), p.cr) << p.x << ',' << p.y;
+    }
+};
+
 
 LOGFONTA Font(const char* face, int height, int weight = FW_NORMAL, BYTE pitch = DEFAULT_PITCH) {
     LOGFONTA lf;
@@ -37,11 +59,13 @@ int CountPixels(const QImage& image, const QRect& area, COLORREF cr) {
 
 }  // namespace
 
-TEST_F(DrawingTest, FillsLandInTheImageInsideTheClip) {
-    CDC* dc = m_wnd.GetDC();
-    ASSERT_NE(dc, nullptr);
-    RECT all{0, 0, 400, 300};
-    dc->FillSolidRect(&all, kWhite);
+TEST_F(DrawingTest, FillsShapesAndImagesLandInTheImageInsideTheClip) {
+    CImageList list;
+    ASSERT_TRUE(list.Create(4, 4, 0, 1, 1));
+    std::vector<DWORD> pixels(16, 0xFF00FF00);  // opaque green
+    pixels[0] = 0x00000000;                     // one transparent corner
+    ASSERT_EQ(list.Add(pixels), 0);
+    CDC* dc = WhiteDC();
     dc->FillSolidRect(10, 10, 20, 5, kRed);
     dc->IntersectClipRect(0, 0, 15, 300);
     dc->FillSolidRect(0, 50, 100, 10, kBlue);
@@ -52,29 +76,29 @@ TEST_F(DrawingTest, FillsLandInTheImageInsideTheClip) {
     dc->SelectObject(&brush);
     dc->SelectObject(&pen);
     dc->Rectangle(100, 100, 110, 110);
+    ImageList_Draw(&list, 0, dc, 20, 30, ILD_NORMAL);
+    dc->SelectStockObject(BLACK_PEN);
+    dc->RoundRect(200, 100, 240, 120, 4, 4);
+    RECT focus{200, 200, 220, 210};
+    dc->DrawFocusRect(&focus);
     m_wnd.ReleaseDC(dc);
 
-    const QImage& image = Image();
-    EXPECT_EQ(image.size(), QSize(400, 300));
-    EXPECT_EQ(Pixel(image, 10, 10), kRed);
-    EXPECT_EQ(Pixel(image, 29, 14), kRed);
-    EXPECT_EQ(Pixel(image, 30, 14), kWhite);  // right and bottom edges excluded
-    EXPECT_EQ(Pixel(image, 29, 15), kWhite);
-    EXPECT_EQ(Pixel(image, 14, 55), kBlue);
-    EXPECT_EQ(Pixel(image, 15, 55), kWhite);  // clipped
-    EXPECT_EQ(Pixel(image, 100, 100), kRed);
-    EXPECT_EQ(Pixel(image, 109, 109), kRed);
-    EXPECT_EQ(Pixel(image, 105, 105), kBlue);
-    EXPECT_EQ(Pixel(image, 110, 110), kWhite);
+    // Right and bottom edges excluded; the clip holds.
+    ExpectPixels({{10, 10, kRed}, {29, 14, kRed}, {30, 14, kWhite}, {29, 15, kWhite},
+                  {14, 55, kBlue}, {15, 55, kWhite}, {100, 100, kRed}, {109, 109, kRed},
+                  {105, 105, kBlue}, {110, 110, kWhite}, {21, 31, RGB(0, 255, 0)},
+                  {20, 30, kWhite}, {24, 34, kWhite}, {220, 110, kBlue}, {220, 100, kBlack},
+                  {220, 120, kWhite}, {199, 110, kWhite}});
+    // The focus rectangle inverts dots along its edge and nothing inside.
+    EXPECT_GT(CountPixels(Image(), QRect(200, 200, 20, 1), kBlack), 5);
+    EXPECT_EQ(CountPixels(Image(), QRect(201, 201, 18, 8), kBlack), 0);
 }
 
 TEST_F(DrawingTest, TextIsDrawnInTheTextColourWithinItsMeasuredCell) {
     CFont font;
     LOGFONTA lf = Font("Courier New", -20, FW_BOLD);
     ASSERT_TRUE(font.CreateFontIndirect(&lf));
-    CDC* dc = m_wnd.GetDC();
-    RECT all{0, 0, 400, 300};
-    dc->FillSolidRect(&all, kWhite);
+    CDC* dc = WhiteDC();
     dc->SelectObject(&font);
     dc->SetTextColor(kRed);
     dc->SetBkColor(kBlue);
@@ -99,14 +123,10 @@ TEST_F(DrawingTest, TextIsDrawnInTheTextColourWithinItsMeasuredCell) {
 }
 
 TEST_F(DrawingTest, WidthsAreSumsOfIntegerByteAdvancesInEveryFont) {
-    const LOGFONTA fonts[] = {
-        Font("Courier New", -13),
-        Font("Arial", -15),
-        Font("Arial", -15, FW_BOLD),
-        Font("Times New Roman", 18),
-        Font("", 0, FW_NORMAL, FIXED_PITCH | FF_MODERN),
-    };
-    std::unique_ptr<CDC> dc(CreateDCA("DISPLAY", nullptr, nullptr, nullptr));
+    const LOGFONTA fonts[] = {Font("Courier New", -13), Font("Arial", -15),
+                              Font("Arial", -15, FW_BOLD), Font("Times New Roman", 18),
+                              Font("", 0, FW_NORMAL, FIXED_PITCH | FF_MODERN)};
+    std::unique_ptr<CDC> dc = Display();
     ASSERT_NE(dc, nullptr);
     const char* text = "Wil\xE9\x80 fi ff AV To.\x97";
     int n = static_cast<int>(std::strlen(text));
@@ -120,8 +140,7 @@ TEST_F(DrawingTest, WidthsAreSumsOfIntegerByteAdvancesInEveryFont) {
         int sum = 0;
         for (int i = 0; i < n; ++i)
             sum += widths[static_cast<unsigned char>(text[i])];
-        EXPECT_EQ(dc->GetTextExtent(text, n).cx, sum);
-        // Pieces measured apart add up, and tabless tabbed text is the same.
+        EXPECT_EQ(dc->GetTextExtent(text, n).cx, sum);  // pieces add up, tabless tabbed too
         EXPECT_EQ(dc->GetTextExtent(text, 5).cx + dc->GetTextExtent(text + 5, n - 5).cx, sum);
         EXPECT_EQ(dc->GetTabbedTextExtent(text, n, 0, nullptr).cx, sum);
         TEXTMETRICA tm;
@@ -130,7 +149,6 @@ TEST_F(DrawingTest, WidthsAreSumsOfIntegerByteAdvancesInEveryFont) {
             EXPECT_GT(widths['W'], widths['i']);
         }
         EXPECT_GT(widths[0x80], 0);  // the euro sign has a glyph
-
         EXPECT_EQ(tm.tmHeight, tm.tmAscent + tm.tmDescent);
         EXPECT_EQ(tm.tmOverhang, 0);
         if (lf.lfHeight < 0) {
@@ -142,7 +160,7 @@ TEST_F(DrawingTest, WidthsAreSumsOfIntegerByteAdvancesInEveryFont) {
 }
 
 TEST_F(DrawingTest, FixedPitchRequestsGetOneWidthForEveryByte) {
-    std::unique_ptr<CDC> dc(CreateDCA("DISPLAY", nullptr, nullptr, nullptr));
+    std::unique_ptr<CDC> dc = Display();
     for (const LOGFONTA& lf : {Font("Courier New", -16), Font("Fixedsys", 15),
                                Font("Anything", -16, FW_NORMAL, FIXED_PITCH)}) {
         SCOPED_TRACE(lf.lfFaceName);
@@ -159,18 +177,28 @@ TEST_F(DrawingTest, FixedPitchRequestsGetOneWidthForEveryByte) {
         EXPECT_EQ(dc->GetTabbedTextExtent("ab\tc", 4, 0, nullptr).cx, 9 * tm.tmAveCharWidth);
     }
     EXPECT_EQ(CQtFonts::MakeQFont(Font("Arial", -12)).family(), QString(CQtFonts::kSansFamily));
+
+    // A width in the description stretches the font.
+    LOGFONTA lf = Font("Courier New", -20);
+    CFont natural;
+    natural.CreateFontIndirect(&lf);
+    dc->SelectObject(&natural);
+    lf.lfWidth = 2 * dc->GetTextExtent("x", 1).cx;
+    CFont wide;
+    wide.CreateFontIndirect(&lf);
+    dc->SelectObject(&wide);
+    EXPECT_NEAR(dc->GetTextExtent("x", 1).cx, lf.lfWidth, 2);
+    TEXTMETRICA tm;
+    dc->GetTextMetrics(&tm);
+    EXPECT_NEAR(tm.tmAveCharWidth, lf.lfWidth, 2);
 }
 
 TEST_F(DrawingTest, DrawnGlyphsFollowTheMeasuredAdvances) {
-    // Text drawn as a whole and in pieces at their measured offsets gives
-    // the same pixels: the engine draws long lines in pieces. (Transparent,
-    // since an opaque cell covers what its left neighbour overhangs.)
+    // Whole and in pieces at their measured offsets: the same pixels.
     CFont font;
     LOGFONTA lf = Font("Arial", -17);
     font.CreateFontIndirect(&lf);
-    CDC* dc = m_wnd.GetDC();
-    RECT all{0, 0, 400, 300};
-    dc->FillSolidRect(&all, kWhite);
+    CDC* dc = WhiteDC();
     dc->SelectObject(&font);
     dc->SetBkMode(TRANSPARENT);
     const char* text = "AVAWAY Tof.ff";
@@ -181,17 +209,13 @@ TEST_F(DrawingTest, DrawnGlyphsFollowTheMeasuredAdvances) {
         dc->TextOut(x, 60, text + i, 1);
         x += dc->GetTextExtent(text + i, 1).cx;
     }
-    int w = dc->GetTextExtent(text, n).cx;
-    int h = dc->GetTextExtent(text, n).cy;
+    CSize size = dc->GetTextExtent(text, n);
     m_wnd.ReleaseDC(dc);
-    const QImage& image = Image();
-    EXPECT_EQ(image.copy(10, 10, w, h), image.copy(10, 60, w, h));
+    EXPECT_EQ(Image().copy(10, 10, size.cx, size.cy), Image().copy(10, 60, size.cx, size.cy));
 }
 
 TEST_F(DrawingTest, ScrollDCMovesPixelsAndReportsWhatItUncovered) {
-    CDC* dc = m_wnd.GetDC();
-    RECT all{0, 0, 400, 300};
-    dc->FillSolidRect(&all, kWhite);
+    CDC* dc = WhiteDC();
     dc->FillSolidRect(0, 100, 400, 20, kRed);
     RECT scroll{0, 0, 400, 300};
     CRgn exposed;
@@ -199,61 +223,7 @@ TEST_F(DrawingTest, ScrollDCMovesPixelsAndReportsWhatItUncovered) {
     ASSERT_TRUE(dc->ScrollDC(0, -30, &scroll, &scroll, &exposed, &box));
     m_wnd.ReleaseDC(dc);
     EXPECT_EQ(box, (RECT{0, 270, 400, 300}));
-    const QImage& image = Image();
-    EXPECT_EQ(Pixel(image, 5, 70), kRed);
-    EXPECT_EQ(Pixel(image, 5, 89), kRed);
-    EXPECT_EQ(Pixel(image, 5, 90), kWhite);
-    EXPECT_EQ(Pixel(image, 5, 69), kWhite);
-
+    ExpectPixels({{5, 70, kRed}, {5, 89, kRed}, {5, 90, kWhite}, {5, 69, kWhite}});
     // A measuring context has nothing to move.
-    std::unique_ptr<CDC> display(CreateDCA("DISPLAY", nullptr, nullptr, nullptr));
-    EXPECT_FALSE(display->ScrollDC(0, 10, &scroll, &scroll, &exposed, &box));
-}
-
-TEST_F(DrawingTest, ImagesRoundRectsAndFocusRects) {
-    CImageList list;
-    ASSERT_TRUE(list.Create(4, 4, 0, 1, 1));
-    std::vector<DWORD> pixels(16, 0xFF00FF00);  // opaque green
-    pixels[0] = 0x00000000;                     // one transparent corner
-    ASSERT_EQ(list.Add(pixels), 0);
-    CDC* dc = m_wnd.GetDC();
-    RECT all{0, 0, 400, 300};
-    dc->FillSolidRect(&all, kWhite);
-    ImageList_Draw(&list, 0, dc, 20, 30, ILD_NORMAL);
-    CBrush brush(kBlue);
-    dc->SelectObject(&brush);
-    dc->SelectStockObject(BLACK_PEN);
-    dc->RoundRect(100, 100, 140, 120, 4, 4);
-    RECT focus{200, 200, 220, 210};
-    dc->DrawFocusRect(&focus);
-    m_wnd.ReleaseDC(dc);
-
-    const QImage& image = Image();
-    EXPECT_EQ(Pixel(image, 21, 31), RGB(0, 255, 0));
-    EXPECT_EQ(Pixel(image, 20, 30), kWhite);
-    EXPECT_EQ(Pixel(image, 24, 34), kWhite);
-    EXPECT_EQ(Pixel(image, 120, 110), kBlue);
-    EXPECT_EQ(Pixel(image, 120, 100), RGB(0, 0, 0));  // outline
-    EXPECT_EQ(Pixel(image, 120, 120), kWhite);        // bottom edge excluded
-    EXPECT_EQ(Pixel(image, 99, 110), kWhite);
-    // The focus rectangle inverts dots along its edge and nothing inside.
-    EXPECT_GT(CountPixels(image, QRect(200, 200, 20, 1), RGB(0, 0, 0)), 5);
-    EXPECT_EQ(CountPixels(image, QRect(201, 201, 18, 8), RGB(0, 0, 0)), 0);
-}
-
-TEST_F(DrawingTest, AWidthInTheDescriptionStretchesTheFont) {
-    std::unique_ptr<CDC> dc(CreateDCA("DISPLAY", nullptr, nullptr, nullptr));
-    LOGFONTA lf = Font("Courier New", -20);
-    CFont natural;
-    natural.CreateFontIndirect(&lf);
-    dc->SelectObject(&natural);
-    int w = dc->GetTextExtent("x", 1).cx;
-    lf.lfWidth = 2 * w;
-    CFont wide;
-    wide.CreateFontIndirect(&lf);
-    dc->SelectObject(&wide);
-    EXPECT_NEAR(dc->GetTextExtent("x", 1).cx, 2 * w, 2);
-    TEXTMETRICA tm;
-    dc->GetTextMetrics(&tm);
-    EXPECT_NEAR(tm.tmAveCharWidth, 2 * w, 2);
+    EXPECT_FALSE(Display()->ScrollDC(0, 10, &scroll, &scroll, &exposed, &box));
 }

@@ -1,5 +1,6 @@
 // Qt input reaching windows as messages.
 #include <QKeyEvent>
+#include <algorithm>
 #include <QPointer>
 #include <QScrollBar>
 #include <QTest>
@@ -27,21 +28,18 @@ public:
     bool m_bShift = false, m_bControl = false, m_bLeft = false;
 };
 
-std::vector<Message> Only(const CRecordingWnd& wnd, std::initializer_list<UINT> kinds) {
+// The messages of the given kinds; with bNoModifiers, less the modifier keys
+// QTest presses before a key with modifiers.
+std::vector<Message> Only(const CRecordingWnd& wnd, std::initializer_list<UINT> kinds,
+                          bool bNoModifiers = false) {
     std::vector<Message> out;
-    for (const Message& m : wnd.Messages())
-        for (UINT k : kinds)
-            if (m.message == k) out.push_back(m);
-    return out;
-}
-
-// The same, less the modifier keys QTest presses before a key with modifiers.
-std::vector<Message> OnlyKeys(const CRecordingWnd& wnd, std::initializer_list<UINT> kinds) {
-    std::vector<Message> out;
-    for (const Message& m : Only(wnd, kinds))
-        if (m.message == WM_CHAR || m.message == WM_SYSCHAR ||
-            (m.wParam != VK_SHIFT && m.wParam != VK_CONTROL && m.wParam != VK_MENU))
+    for (const Message& m : wnd.Messages()) {
+        bool modifier = m.message != WM_CHAR &&
+                        (m.wParam == VK_SHIFT || m.wParam == VK_CONTROL || m.wParam == VK_MENU);
+        if (std::find(kinds.begin(), kinds.end(), m.message) != kinds.end() &&
+            !(bNoModifiers && modifier))
             out.push_back(m);
+    }
     return out;
 }
 
@@ -58,25 +56,21 @@ QKeyEvent Key(int key, Qt::KeyboardModifiers mods = Qt::NoModifier, const QStrin
 }  // namespace
 
 TEST(EventTranslatorTest, KeysMapToVirtualKeyCodesKeypadIncluded) {
-    EXPECT_EQ(CQtEventTranslator::VirtualKey(Key(Qt::Key_A, Qt::NoModifier, "a")), 'A');
-    EXPECT_EQ(CQtEventTranslator::VirtualKey(Key(Qt::Key_7)), '7');
-    EXPECT_EQ(CQtEventTranslator::VirtualKey(Key(Qt::Key_7, Qt::KeypadModifier)), VK_NUMPAD7);
-    EXPECT_EQ(CQtEventTranslator::VirtualKey(Key(Qt::Key_Plus, Qt::KeypadModifier)), VK_ADD);
-    EXPECT_EQ(CQtEventTranslator::VirtualKey(Key(Qt::Key_Minus, Qt::KeypadModifier)), VK_SUBTRACT);
-    EXPECT_EQ(CQtEventTranslator::VirtualKey(Key(Qt::Key_Asterisk, Qt::KeypadModifier)),
-              VK_MULTIPLY);
-    EXPECT_EQ(CQtEventTranslator::VirtualKey(Key(Qt::Key_Enter, Qt::KeypadModifier)), VK_RETURN);
-    EXPECT_EQ(CQtEventTranslator::VirtualKey(Key(Qt::Key_Home, Qt::KeypadModifier)), VK_HOME);
-    EXPECT_EQ(CQtEventTranslator::VirtualKey(Key(Qt::Key_Plus)), VK_OEM_PLUS);
-    EXPECT_EQ(CQtEventTranslator::VirtualKey(Key(Qt::Key_Delete)), VK_DELETE);
-    EXPECT_EQ(CQtEventTranslator::VirtualKey(Key(Qt::Key_PageUp)), VK_PRIOR);
-    EXPECT_EQ(CQtEventTranslator::VirtualKey(Key(Qt::Key_Backtab)), VK_TAB);
-    EXPECT_EQ(CQtEventTranslator::VirtualKey(Key(Qt::Key_F2)), VK_F2);
-    EXPECT_EQ(CQtEventTranslator::VirtualKey(Key(Qt::Key_Control)), VK_CONTROL);
-    EXPECT_EQ(CQtEventTranslator::VirtualKey(Key(Qt::Key_Exclam, Qt::ShiftModifier, "!")), '1');
-    EXPECT_EQ(CQtEventTranslator::VirtualKey(Key(Qt::Key_Eacute, Qt::NoModifier, "\u00e9")),
-              VK_OEM_8);
-    EXPECT_EQ(CQtEventTranslator::VirtualKey(Key(Qt::Key_VolumeUp)), 0);
+    auto vk = [](Qt::Key key, Qt::KeyboardModifiers mods = {}, const char* text = "") {
+        return CQtEventTranslator::VirtualKey(Key(key, mods, QString::fromUtf8(text)));
+    };
+    const Qt::KeyboardModifiers pad = Qt::KeypadModifier;
+    const std::pair<int, int> cases[] = {
+        {vk(Qt::Key_A, {}, "a"), 'A'},        {vk(Qt::Key_7), '7'},
+        {vk(Qt::Key_7, pad), VK_NUMPAD7},     {vk(Qt::Key_Plus, pad), VK_ADD},
+        {vk(Qt::Key_Minus, pad), VK_SUBTRACT}, {vk(Qt::Key_Asterisk, pad), VK_MULTIPLY},
+        {vk(Qt::Key_Enter, pad), VK_RETURN},  {vk(Qt::Key_Home, pad), VK_HOME},
+        {vk(Qt::Key_Plus), VK_OEM_PLUS},      {vk(Qt::Key_PageUp), VK_PRIOR},
+        {vk(Qt::Key_Backtab), VK_TAB},        {vk(Qt::Key_Exclam, Qt::ShiftModifier, "!"), '1'},
+        {vk(Qt::Key_Eacute, {}, "\u00e9"), VK_OEM_8}, {vk(Qt::Key_VolumeUp), 0},
+    };
+    for (size_t i = 0; i < std::size(cases); ++i)
+        EXPECT_EQ(cases[i].first, cases[i].second) << "case " << i;
 
     // The sides of modifiers, by X11 key code where there is one.
     QKeyEvent right(QEvent::KeyPress, Qt::Key_Control, Qt::ControlModifier, 105, 0, 0);
@@ -85,10 +79,11 @@ TEST(EventTranslatorTest, KeysMapToVirtualKeyCodesKeypadIncluded) {
     EXPECT_EQ(CQtEventTranslator::SidedVirtualKey(left), VK_LCONTROL);
     EXPECT_EQ(CQtEventTranslator::SidedVirtualKey(Key(Qt::Key_Shift)), VK_LSHIFT);
 
-    // Flags: a release reads negative; Delete types nothing.
+    // A release reads negative; arrows are extended keys.
     EXPECT_LT(CQtEventTranslator::KeyFlags(Key(Qt::Key_A), true), 0);
     EXPECT_EQ(CQtEventTranslator::KeyFlags(Key(Qt::Key_A), false) & 0xFFFF, 1);
     EXPECT_NE(CQtEventTranslator::KeyFlags(Key(Qt::Key_Left), false) & (KF_EXTENDED << 16), 0);
+    // Delete types nothing; typed text comes in the code page.
     EXPECT_EQ(CQtEventTranslator::Characters(Key(Qt::Key_Delete, Qt::NoModifier, "\x7f")), "");
     EXPECT_EQ(
         CQtEventTranslator::Characters(Key(static_cast<Qt::Key>(0x20AC), Qt::NoModifier, "\u20ac")),
@@ -103,78 +98,56 @@ TEST_F(InputTest, KeysArriveAsKeyDownCharAndKeyUp) {
 
     QTest::keyClick(widget, Qt::Key_A);
     auto keys = Only(wnd, {WM_KEYDOWN, WM_CHAR, WM_KEYUP, WM_SYSKEYDOWN, WM_SYSCHAR});
-    ASSERT_EQ(keys.size(), 3u);
-    EXPECT_EQ(keys[0].message, WM_KEYDOWN);
-    EXPECT_EQ(keys[0].wParam, static_cast<WPARAM>('A'));
-    EXPECT_EQ(keys[1].message, WM_CHAR);
-    EXPECT_EQ(keys[1].wParam, static_cast<WPARAM>('a'));
-    EXPECT_EQ(keys[2].message, WM_KEYUP);
-    EXPECT_EQ(keys[2].wParam, static_cast<WPARAM>('A'));
-    EXPECT_LT(keys[2].lParam, 0);
+    std::vector<std::pair<UINT, WPARAM>> got;
+    for (const Message& m : keys)
+        got.push_back({m.message, m.wParam});
+    EXPECT_EQ(got, (std::vector<std::pair<UINT, WPARAM>>{
+                       {WM_KEYDOWN, 'A'}, {WM_CHAR, 'a'}, {WM_KEYUP, 'A'}}));
+    EXPECT_LT(keys.back().lParam, 0);
 
-    // Shifted, the state is down while the key is handled and up after.
-    wnd.ClearMessages();
-    QTest::keyClick(widget, Qt::Key_B, Qt::ShiftModifier);  // Shift goes down first
-    keys = Only(wnd, {WM_KEYDOWN, WM_CHAR});
-    ASSERT_EQ(keys.size(), 3u);
-    EXPECT_EQ(keys[0].wParam, static_cast<WPARAM>(VK_SHIFT));
-    EXPECT_EQ(keys[1].wParam, static_cast<WPARAM>('B'));
-    EXPECT_EQ(keys[2].message, WM_CHAR);
+    // Shifted, the state is down while the key is handled.
+    QTest::keyClick(widget, Qt::Key_B, Qt::ShiftModifier);
     EXPECT_TRUE(wnd.m_bShift);
     EXPECT_FALSE(wnd.m_bControl);
 
-    // Keys with control characters, keys without, keypad, the code page.
+    // Keys with control characters, keys without, keypad, the code page; Alt
+    // makes them system keys.
     struct Case {
         int key;
         Qt::KeyboardModifiers mods;
+        UINT message;
         int vk;
         std::string chars;
     };
     const Case cases[] = {
-        {Qt::Key_Return, Qt::NoModifier, VK_RETURN, "\r"},
-        {Qt::Key_Backspace, Qt::NoModifier, VK_BACK, "\b"},
-        {Qt::Key_Tab, Qt::NoModifier, VK_TAB, "\t"},
-        {Qt::Key_Escape, Qt::NoModifier, VK_ESCAPE, "\x1b"},
-        {Qt::Key_Delete, Qt::NoModifier, VK_DELETE, ""},
-        {Qt::Key_Left, Qt::NoModifier, VK_LEFT, ""},
-        {Qt::Key_Plus, Qt::KeypadModifier, VK_ADD, "+"},
-        {Qt::Key_5, Qt::KeypadModifier, VK_NUMPAD5, "5"},
-        {Qt::Key_A, Qt::ControlModifier, 'A', "\x01"},
+        {Qt::Key_Return, Qt::NoModifier, WM_KEYDOWN, VK_RETURN, "\r"},
+        {Qt::Key_Backspace, Qt::NoModifier, WM_KEYDOWN, VK_BACK, "\b"},
+        {Qt::Key_Tab, Qt::NoModifier, WM_KEYDOWN, VK_TAB, "\t"},
+        {Qt::Key_Escape, Qt::NoModifier, WM_KEYDOWN, VK_ESCAPE, "\x1b"},
+        {Qt::Key_Delete, Qt::NoModifier, WM_KEYDOWN, VK_DELETE, ""},
+        {Qt::Key_Left, Qt::NoModifier, WM_KEYDOWN, VK_LEFT, ""},
+        {Qt::Key_Plus, Qt::KeypadModifier, WM_KEYDOWN, VK_ADD, "+"},
+        {Qt::Key_5, Qt::KeypadModifier, WM_KEYDOWN, VK_NUMPAD5, "5"},
+        {Qt::Key_A, Qt::ControlModifier, WM_KEYDOWN, 'A', "\x01"},
+        {Qt::Key_Backspace, Qt::AltModifier, WM_SYSKEYDOWN, VK_BACK, ""},
     };
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.vk);
+        SCOPED_TRACE(c.key);
         wnd.ClearMessages();
         QString text;
         for (char ch : c.chars)
             text += QChar(ch);
         QTest::sendKeyEvent(QTest::KeyAction::Press, widget, static_cast<Qt::Key>(c.key), text,
                             c.mods);
-        keys = OnlyKeys(wnd, {WM_KEYDOWN, WM_CHAR});
+        keys = Only(wnd, {c.message, WM_CHAR}, true);
         ASSERT_EQ(keys.size(), 1 + c.chars.size());
+        EXPECT_EQ(keys[0].message, c.message);
         EXPECT_EQ(keys[0].wParam, static_cast<WPARAM>(c.vk));
         for (size_t i = 0; i < c.chars.size(); ++i)
             EXPECT_EQ(keys[1 + i].wParam, static_cast<unsigned char>(c.chars[i]));
         QTest::sendKeyEvent(QTest::KeyAction::Release, widget, static_cast<Qt::Key>(c.key), text,
                             c.mods);
     }
-
-    wnd.ClearMessages();
-    QTest::sendKeyEvent(QTest::KeyAction::Click, widget, static_cast<Qt::Key>(0x20AC),
-                        QString::fromUtf8("€"), Qt::NoModifier);
-    keys = Only(wnd, {WM_CHAR});
-    ASSERT_EQ(keys.size(), 1u);
-    EXPECT_EQ(keys[0].wParam, 0x80u);
-
-    // Alt makes them system keys.
-    wnd.ClearMessages();
-    QTest::sendKeyEvent(QTest::KeyAction::Press, widget, Qt::Key_Backspace, QString(),
-                        Qt::AltModifier);
-    keys = OnlyKeys(wnd, {WM_KEYDOWN, WM_SYSKEYDOWN});
-    ASSERT_EQ(keys.size(), 1u);
-    EXPECT_EQ(keys[0].message, WM_SYSKEYDOWN);
-    EXPECT_EQ(keys[0].wParam, static_cast<WPARAM>(VK_BACK));
-    QTest::sendKeyEvent(QTest::KeyAction::Release, widget, Qt::Key_Backspace, QString(),
-                        Qt::AltModifier);
 }
 
 TEST_F(InputTest, KeyStateTracksTheSpaceBarSidesAndToggles) {
@@ -188,23 +161,19 @@ TEST_F(InputTest, KeyStateTracksTheSpaceBarSidesAndToggles) {
     // Inside the message of a key with Ctrl held, the right one is down.
     struct Probe : CRecordingWnd {
         LRESULT WindowProc(UINT m, WPARAM w, LPARAM l) override {
-            if (m == WM_KEYDOWN) {
-                right = ::GetKeyState(VK_RCONTROL) < 0;
-                left = ::GetKeyState(VK_LCONTROL) < 0;
-            }
+            if (m == WM_KEYDOWN)
+                sides = {::GetKeyState(VK_LCONTROL) < 0, ::GetKeyState(VK_RCONTROL) < 0};
             return CRecordingWnd::WindowProc(m, w, l);
         }
-        bool right = false, left = true;
+        std::pair<bool, bool> sides{true, false};
     } probe;
     ASSERT_TRUE(probe.Create(WS_VISIBLE, RECT{0, 0, 50, 50}, nullptr, 0));
-    QKeyEvent rightDown2(QEvent::KeyPress, Qt::Key_Control, Qt::ControlModifier, 105, 0, 0);
-    QApplication::sendEvent(Widget(&probe), &rightDown2);
+    QKeyEvent rightDown(QEvent::KeyPress, Qt::Key_Control, Qt::ControlModifier, 105, 0, 0);
     QKeyEvent ctrlX(QEvent::KeyPress, Qt::Key_X, Qt::ControlModifier, "\x18");
-    QApplication::sendEvent(Widget(&probe), &ctrlX);
-    EXPECT_TRUE(probe.right);
-    EXPECT_FALSE(probe.left);
     QKeyEvent rightUp(QEvent::KeyRelease, Qt::Key_Control, Qt::NoModifier, 105, 0, 0);
-    QApplication::sendEvent(Widget(&probe), &rightUp);
+    for (QKeyEvent* e : {&rightDown, &ctrlX, &rightUp})
+        QApplication::sendEvent(Widget(&probe), e);
+    EXPECT_EQ(probe.sides, std::make_pair(false, true));
 
     // Caps Lock toggles with each press.
     QTest::keyClick(widget, Qt::Key_CapsLock);
@@ -222,10 +191,8 @@ TEST_F(InputTest, MouseArrivesWithFlagsAndClientCoordinates) {
     QTest::mouseClick(widget, Qt::LeftButton, Qt::ShiftModifier, QPoint(21, 31));
     auto clicks = Only(wnd, {WM_LBUTTONDOWN, WM_LBUTTONUP});
     ASSERT_EQ(clicks.size(), 2u);
-    EXPECT_EQ(clicks[0].message, WM_LBUTTONDOWN);
     EXPECT_EQ(clicks[0].wParam, MK_LBUTTON | MK_SHIFT);
-    EXPECT_EQ(GET_X_LPARAM(clicks[0].lParam), 20);  // less the border
-    EXPECT_EQ(GET_Y_LPARAM(clicks[0].lParam), 30);
+    EXPECT_EQ(clicks[0].lParam, MAKELPARAM(20, 30));  // less the border
     EXPECT_EQ(clicks[1].wParam, MK_SHIFT);
     EXPECT_TRUE(wnd.m_bShift);
     EXPECT_TRUE(wnd.m_bLeft);
@@ -242,12 +209,8 @@ TEST_F(InputTest, MouseArrivesWithFlagsAndClientCoordinates) {
     ASSERT_EQ(right.size(), 1u);
     EXPECT_EQ(right[0].wParam, MK_RBUTTON | MK_CONTROL);
 
-    wnd.ClearMessages();
     QTest::mouseMove(widget, QPoint(51, 41));
-    auto moves = Only(wnd, {WM_MOUSEMOVE});
-    ASSERT_FALSE(moves.empty());
-    EXPECT_EQ(GET_X_LPARAM(moves.back().lParam), 50);
-    EXPECT_EQ(GET_Y_LPARAM(moves.back().lParam), 40);
+    EXPECT_EQ(Only(wnd, {WM_MOUSEMOVE}).back().lParam, MAKELPARAM(50, 40));
 }
 
 TEST_F(InputTest, WheelSendsOneMessagePerNotch) {
@@ -258,19 +221,21 @@ TEST_F(InputTest, WheelSendsOneMessagePerNotch) {
                           false);
         QApplication::sendEvent(widget, &event);
     };
+    auto deltas = [&] {
+        std::vector<int> out;
+        for (const Message& m : Only(m_wnd, {WM_MOUSEWHEEL}))
+            out.push_back(GET_WHEEL_DELTA_WPARAM(m.wParam));
+        return out;
+    };
     wheel(240);
-    auto notches = Only(m_wnd, {WM_MOUSEWHEEL});
-    ASSERT_EQ(notches.size(), 2u);
-    EXPECT_EQ(GET_WHEEL_DELTA_WPARAM(notches[0].wParam), 120);
-    EXPECT_EQ(LOWORD(notches[0].wParam), MK_CONTROL);
-    EXPECT_EQ(GET_X_LPARAM(notches[0].lParam), 15);  // on the screen
+    EXPECT_EQ(deltas(), (std::vector<int>{120, 120}));
+    EXPECT_EQ(LOWORD(Only(m_wnd, {WM_MOUSEWHEEL})[0].wParam), MK_CONTROL);
+    EXPECT_EQ(GET_X_LPARAM(Only(m_wnd, {WM_MOUSEWHEEL})[0].lParam), 15);  // on the screen
     m_wnd.ClearMessages();
+    wheel(-60);  // half a notch: nothing yet
+    EXPECT_TRUE(deltas().empty());
     wheel(-60);
-    EXPECT_EQ(m_wnd.Count(WM_MOUSEWHEEL), 0);  // half a notch
-    wheel(-60);
-    notches = Only(m_wnd, {WM_MOUSEWHEEL});
-    ASSERT_EQ(notches.size(), 1u);
-    EXPECT_EQ(GET_WHEEL_DELTA_WPARAM(notches[0].wParam), -120);
+    EXPECT_EQ(deltas(), (std::vector<int>{-120}));
 
     // Over the window's own bar the wheel is still the window's.
     m_wnd.SetScrollRange(SB_VERT, 0, 500);
@@ -288,15 +253,10 @@ TEST_F(InputTest, FocusMovesWithMessagesToBothWindows) {
     CRecordingWnd other;
     ASSERT_TRUE(other.Create(WS_VISIBLE, RECT{0, 0, 50, 50}, nullptr, 0));
     m_wnd.SetFocus();
-    EXPECT_EQ(CWnd::GetFocus(), &m_wnd);
     m_wnd.ClearMessages();
-    CWnd* old = other.SetFocus();
-    EXPECT_EQ(old, &m_wnd);
+    EXPECT_EQ(other.SetFocus(), &m_wnd);
     EXPECT_EQ(CWnd::GetFocus(), &other);
-    ASSERT_EQ(m_wnd.Count(WM_KILLFOCUS), 1);
-    EXPECT_EQ(other.Count(WM_SETFOCUS), 1);
-    Pump();
-    // Qt's own focus events find the move made.
+    Pump();  // Qt's own focus events find the move made: no second message
     EXPECT_EQ(m_wnd.Count(WM_KILLFOCUS), 1);
     EXPECT_EQ(other.Count(WM_SETFOCUS), 1);
     other.DestroyWindow();
@@ -312,14 +272,11 @@ TEST_F(InputTest, KeyboardHooksHearEveryKeyOnceAndMayKeepIt) {
     HHOOK hook = SetWindowsHookExA(WH_KEYBOARD, SwallowF2, nullptr, 0);
     ASSERT_NE(hook, nullptr);
     wnd.ClearMessages();
-    QTest::keyClick(Widget(&wnd), Qt::Key_F3);
-    EXPECT_EQ(g_nHookCalls, 2);  // press and release
-    EXPECT_EQ(wnd.Count(WM_KEYDOWN), 1);
-    QTest::keyClick(Widget(&wnd), Qt::Key_F2);
+    QTest::keyClick(Widget(&wnd), Qt::Key_F3);  // press and release
+    QTest::keyClick(Widget(&wnd), Qt::Key_F2);  // kept from the window
     EXPECT_EQ(g_nHookCalls, 4);
-    EXPECT_EQ(wnd.Count(WM_KEYDOWN), 1);  // kept from the window
-    // A child's key is heard once too.
-    QTest::keyPress(Widget(&child), Qt::Key_F4);
+    EXPECT_EQ(wnd.Count(WM_KEYDOWN), 1);
+    QTest::keyPress(Widget(&child), Qt::Key_F4);  // a child's key is heard once too
     EXPECT_EQ(g_nHookCalls, 5);
     ASSERT_TRUE(UnhookWindowsHookEx(hook));
     QTest::keyClick(Widget(&wnd), Qt::Key_F2);
@@ -350,10 +307,9 @@ TEST_F(InputTest, WindowsChooseTheirCursorOnEachMoveAndWaitCursorsNest) {
 
     m_wnd.BeginWaitCursor();
     m_wnd.BeginWaitCursor();
+    m_wnd.EndWaitCursor();
     ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
     EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
-    m_wnd.EndWaitCursor();
-    EXPECT_NE(QGuiApplication::overrideCursor(), nullptr);
     m_wnd.EndWaitCursor();
     m_wnd.EndWaitCursor();  // one too many is harmless
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
@@ -363,16 +319,13 @@ TEST_F(InputTest, CaptureGrabsTheMouseAndTellsTheWindowThatLosesIt) {
     CRecordingWnd other;
     ASSERT_TRUE(other.Create(WS_VISIBLE, RECT{0, 0, 50, 50}, nullptr, 0));
     m_wnd.SetCapture();
-    EXPECT_EQ(CWnd::GetCapture(), &m_wnd);
     EXPECT_EQ(QWidget::mouseGrabber(), Widget());
     other.SetCapture();
     EXPECT_EQ(m_wnd.Count(WM_CAPTURECHANGED), 1);
     EXPECT_EQ(QWidget::mouseGrabber(), Widget(&other));
     ReleaseCapture();
     EXPECT_EQ(other.Count(WM_CAPTURECHANGED), 1);
-    EXPECT_EQ(CWnd::GetCapture(), nullptr);
     EXPECT_EQ(QWidget::mouseGrabber(), nullptr);
-
     // A window going away lets the mouse go.
     other.SetCapture();
     other.DestroyWindow();

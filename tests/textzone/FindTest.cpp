@@ -9,17 +9,23 @@ class FindTest : public ZoneTest {
 protected:
     void Select(int l0, int c0, int l1, int c1) { m_zone.SetSelection(l0, l1, c0, c1, 0, 0); }
     void Caret(int nLine, int nChar) { Select(nLine, nChar, nLine, nChar); }
-    int Forward(const char* psz, int bMatchCase = 1) {
-        return m_zone.FindTextFromCurrentPos(psz, 1, bMatchCase);
-    }
-    int Backward(const char* psz, int bMatchCase = 1) {
-        return m_zone.FindTextFromCurrentPos(psz, 0, bMatchCase);
-    }
     void ExpectSelection(int l0, int c0, int l1, int c1) {
         EXPECT_EQ(m_zone.m_nSelStartLine, l0);
         EXPECT_EQ(m_zone.m_nSelStartChar, c0);
         EXPECT_EQ(m_zone.m_nSelEndLine, l1);
         EXPECT_EQ(m_zone.m_nSelEndChar, c1);
+    }
+    // One search and the selection it leaves; a miss leaves a caret.
+    struct Step {
+        const char* psz;
+        int bForward, bMatchCase, found, l0, c0, l1, c1;
+    };
+    void Run(std::initializer_list<Step> steps) {
+        for (const Step& s : steps) {
+            SCOPED_TRACE(testing::Message() << s.psz << " forward " << s.bForward);
+            EXPECT_EQ(m_zone.FindTextFromCurrentPos(s.psz, s.bForward, s.bMatchCase), s.found);
+            ExpectSelection(s.l0, s.c0, s.l1, s.c1);
+        }
     }
     std::string Plain() { return Text(TF_CRLF | TF_NO_FINAL_END); }
 };
@@ -44,130 +50,71 @@ public:
 
 }  // namespace
 
-TEST_F(FindTest, ForwardFindsOverlappingMatchesAndDoesNotWrap) {
+TEST_F(FindTest, ForwardFindsOverlappingMatchesFromTheSelectionStartAndDoesNotWrap) {
     ASSERT_TRUE(m_zone.SetText("xaaaa\r\naa"));
     Caret(0, 0);
     m_zone.SetSelectionMode(0);
-    EXPECT_EQ(Forward("aa"), 1);
-    ExpectSelection(0, 1, 0, 3);
+    Run({{"aa", 1, 1, 1, 0, 1, 0, 3}});
     EXPECT_EQ(m_zone.GetSelectionMode(), 1);
-    // Each step begins one byte into the match it stands on.
-    EXPECT_EQ(Forward("aa"), 1);
-    ExpectSelection(0, 2, 0, 4);
-    EXPECT_EQ(Forward("aa"), 1);
-    ExpectSelection(0, 3, 0, 5);
-    EXPECT_EQ(Forward("aa"), 1);
-    ExpectSelection(1, 0, 1, 2);
-    // Past the last match: the selection collapses to its end, and a search
-    // from there finds nothing either, the first line is not looked at again.
-    EXPECT_EQ(Forward("aa"), 0);
-    ExpectCaret(1, 2);
-    EXPECT_EQ(Forward("aa"), 0);
-    ExpectCaret(1, 2);
-    EXPECT_EQ(Forward(""), 0);
-}
+    Run({{"aa", 1, 1, 1, 0, 2, 0, 4}, {"aa", 1, 1, 1, 0, 3, 0, 5}, {"aa", 1, 1, 1, 1, 0, 1, 2},
+         {"aa", 1, 1, 0, 1, 2, 1, 2}, {"aa", 1, 1, 0, 1, 2, 1, 2}, {"", 1, 1, 0, 1, 2, 1, 2}});
 
-TEST_F(FindTest, ForwardBeginsAtTheCaretOrTheSelectionStart) {
     ASSERT_TRUE(m_zone.SetText("abc abc\r\nabc"));
-    Caret(0, 2);
-    EXPECT_EQ(Forward("abc"), 1);  // not the one the caret stands in
-    ExpectSelection(0, 4, 0, 7);
-    Caret(0, 5);
-    EXPECT_EQ(Forward("abc"), 1);
-    ExpectSelection(1, 0, 1, 3);
-    // A selection that is not the text: the search takes it in.
-    Select(0, 0, 0, 2);
-    EXPECT_EQ(Forward("abc"), 1);
-    ExpectSelection(0, 0, 0, 3);
-    Caret(1, 1);
-    EXPECT_EQ(Forward("abc"), 0);
-    ExpectCaret(1, 1);
+    Caret(0, 2);  // not the match the caret stands in
+    Run({{"abc", 1, 1, 1, 0, 4, 0, 7}});
+    Select(0, 0, 0, 2);  // a selection that is not the text is taken in
+    Run({{"abc", 1, 1, 1, 0, 0, 0, 3}});
 }
 
 TEST_F(FindTest, BackwardStepsBackFromTheSelectionEnd) {
     ASSERT_TRUE(m_zone.SetText("abcabc\r\nxabc"));
     Caret(1, 4);
-    EXPECT_EQ(Backward("abc"), 1);
-    ExpectSelection(1, 1, 1, 4);
-    EXPECT_EQ(Backward("abc"), 1);
-    ExpectSelection(0, 3, 0, 6);
-    EXPECT_EQ(Backward("abc"), 1);
-    ExpectSelection(0, 0, 0, 3);
-    // Nothing before: the selection collapses to its start; from the start of
-    // the text the search gives up at once.
-    EXPECT_EQ(Backward("abc"), 0);
-    ExpectCaret(0, 0);
-    EXPECT_EQ(Backward("abc"), 0);
-    ExpectCaret(0, 0);
-
-    // Text reaching behind the start point is not found.
-    Caret(0, 4);
-    EXPECT_EQ(Backward("cab"), 0);
-    ExpectCaret(0, 4);
+    Run({{"abc", 0, 1, 1, 1, 1, 1, 4}, {"abc", 0, 1, 1, 0, 3, 0, 6}, {"abc", 0, 1, 1, 0, 0, 0, 3},
+         {"abc", 0, 1, 0, 0, 0, 0, 0}, {"abc", 0, 1, 0, 0, 0, 0, 0}});
+    Caret(0, 4);  // text reaching behind the start point is not found
+    Run({{"cab", 0, 1, 0, 0, 4, 0, 4}});
 
     ASSERT_TRUE(m_zone.SetText("aaaa"));
     Caret(0, 4);
-    EXPECT_EQ(Backward("aa"), 1);
-    ExpectSelection(0, 2, 0, 4);
-    EXPECT_EQ(Backward("aa"), 1);  // overlapping
-    ExpectSelection(0, 1, 0, 3);
-    EXPECT_EQ(Backward("aa"), 1);
-    ExpectSelection(0, 0, 0, 2);
+    Run({{"aa", 0, 1, 1, 0, 2, 0, 4}, {"aa", 0, 1, 1, 0, 1, 0, 3}, {"aa", 0, 1, 1, 0, 0, 0, 2}});
 
-    // From the phantom line the search begins at the end of the last line.
     ASSERT_TRUE(m_zone.SetText("ab\r\n"));
-    Caret(1, 0);
-    EXPECT_EQ(Backward("b"), 1);
-    ExpectSelection(0, 1, 0, 2);
+    Caret(1, 0);  // from the phantom line: the end of the last line
+    Run({{"b", 0, 1, 1, 0, 1, 0, 2}});
 }
 
 TEST_F(FindTest, LineEndIsComparedAsAByte) {
     ASSERT_TRUE(m_zone.SetText("ab\r\nab"));
     Caret(0, 0);
-    EXPECT_EQ(Forward("b\ra"), 0);  // does not go across the line end
-    EXPECT_EQ(Forward("b\r"), 1);
-    // The match takes the line end in, so it reaches to the next line.
-    ExpectSelection(0, 1, 1, 0);
+    Run({{"b\ra", 1, 1, 0, 0, 0, 0, 0}, {"b\r", 1, 1, 1, 0, 1, 1, 0}});
     EXPECT_EQ(m_zone.SameAsSelected("b\r", 1), 1);
-    // The last line has no line end to match.
-    EXPECT_EQ(Forward("b\r"), 0);
-    ExpectCaret(1, 0);
-
+    Run({{"b\r", 1, 1, 0, 1, 0, 1, 0}});  // the last line has no line end
     Caret(1, 2);
-    EXPECT_EQ(Backward("B\r", 0), 1);
-    ExpectSelection(0, 1, 1, 0);
-    EXPECT_EQ(Backward("b\r"), 0);  // the match itself is not found again
-    ExpectCaret(0, 1);
+    Run({{"B\r", 0, 0, 1, 0, 1, 1, 0}, {"b\r", 0, 1, 0, 0, 1, 0, 1}});
 }
 
 TEST_F(FindTest, CaseFoldingCoversWindows1252Letters) {
-    ASSERT_TRUE(
-        m_zone.SetText("\xC9t\xC9 Stra\xDF"
-                       "e \x8A"));
+    ASSERT_TRUE(m_zone.SetText("\xC9t\xC9 Stra\xDF"
+                               "e \x8A"));
     Caret(0, 0);
-    EXPECT_EQ(Forward("\xE9T\xE9", 1), 0);
-    EXPECT_EQ(Forward("\xE9T\xE9", 0), 1);
-    ExpectSelection(0, 0, 0, 3);
-    EXPECT_EQ(Forward("STRA\xDF", 0), 1);
-    ExpectSelection(0, 4, 0, 9);
-    EXPECT_EQ(Forward("\x9A", 0), 1);  // S caron
-    ExpectSelection(0, 11, 0, 12);
+    Run({{"\xE9T\xE9", 1, 1, 0, 0, 0, 0, 0},
+         {"\xE9T\xE9", 1, 0, 1, 0, 0, 0, 3},
+         {"STRA\xDF", 1, 0, 1, 0, 4, 0, 9},
+         {"\x9A", 1, 0, 1, 0, 11, 0, 12}});
 
     Select(0, 4, 0, 9);
     EXPECT_EQ(m_zone.SameAsSelected("stra\xDF", 0), 1);
     EXPECT_EQ(m_zone.SameAsSelected("stra\xDF", 1), 0);
-    EXPECT_EQ(m_zone.SameAsSelected("Stra\xDF", 1), 1);
-    EXPECT_EQ(m_zone.SameAsSelected("stra", 0), 0);  // another length
+    EXPECT_EQ(m_zone.SameAsSelected("stra", 0), 0);
     EXPECT_EQ(m_zone.SameAsSelected("strasse", 0), 0);
 
-    // Over lines, the selected text has one CR for a line end.
     ASSERT_TRUE(m_zone.SetText("ab\r\ncd"));
-    Select(0, 1, 1, 1);
+    Select(0, 1, 1, 1);  // one CR for a line end
     EXPECT_EQ(m_zone.SameAsSelected("b\rc", 1), 1);
     EXPECT_EQ(m_zone.SameAsSelected("b\r\nc", 1), 0);
 }
 
-TEST_F(FindTest, CaseChangeOfASelection) {
+TEST_F(FindTest, CaseChangeOfASelectionKeepsItAndUndoesInOneStep) {
     ASSERT_TRUE(m_zone.SetText("Hello W\xF6rld\r\nsecond Line"));
     Select(0, 1, 1, 3);
     m_zone.MakeUpperOrLower(0);
@@ -176,7 +123,8 @@ TEST_F(FindTest, CaseChangeOfASelection) {
     m_zone.MakeUpperOrLower(1);
     EXPECT_EQ(Plain(), "Hello w\xF6rld\r\nsecond Line");
     ExpectSelection(0, 1, 1, 3);
-    EXPECT_EQ(m_zone.GetLineCount(), 2);
+    m_zone.Undo();
+    EXPECT_EQ(Plain(), "HELLO W\xD6RLD\r\nSECond Line");
 }
 
 TEST_F(FindTest, CaseChangeAtTheCaretWalksOn) {
@@ -185,21 +133,13 @@ TEST_F(FindTest, CaseChangeAtTheCaretWalksOn) {
     m_zone.MakeUpperOrLower(0);  // no case: only the caret moves, nothing is recorded
     ExpectCaret(0, 1);
     EXPECT_EQ(m_zone.GetUndoType(), 0);
-    m_zone.MakeUpperOrLower(0);
-    EXPECT_EQ(Line(0), "1AB \r");
-    ExpectCaret(0, 2);
-    m_zone.MakeUpperOrLower(0);  // already upper
-    ExpectCaret(0, 3);
-    // Trailing blanks and the line end are passed over.
-    m_zone.MakeUpperOrLower(0);
-    ExpectCaret(1, 0);
-    m_zone.MakeUpperOrLower(1);
-    EXPECT_EQ(Line(1), "\xE0");
-    ExpectCaret(1, 1);
-    m_zone.MakeUpperOrLower(1);
-    ExpectCaret(2, 0);
-    m_zone.MakeUpperOrLower(1);  // no line: nothing
-    ExpectCaret(2, 0);
+    // Upper, already upper, trailing blanks and line end, lower, end, no line.
+    const struct { int bLower, line, ch; } steps[] = {{0, 0, 2}, {0, 0, 3}, {0, 1, 0},
+                                                       {1, 1, 1}, {1, 2, 0}, {1, 2, 0}};
+    for (const auto& s : steps) {
+        m_zone.MakeUpperOrLower(s.bLower);
+        ExpectCaret(s.line, s.ch);
+    }
     EXPECT_EQ(Plain(), "1AB \r\n\xE0");
 }
 
@@ -214,15 +154,4 @@ TEST_F(FindTest, CaseChangeReplacesInsideOneTypingFrame) {
     zone.MakeUpperOrLower(1);
     EXPECT_EQ(zone.m_calls, (std::vector<std::string>{"start 1", "insert B\rC selected", "end",
                                                       "start 1", "insert c", "end"}));
-}
-
-TEST_F(FindTest, CaseChangeUndoesInOneStep) {
-    ASSERT_TRUE(m_zone.SetText("abc\r\ndef"));
-    Select(0, 1, 1, 2);
-    m_zone.MakeUpperOrLower(0);
-    ASSERT_EQ(Plain(), "aBC\r\nDEf");
-    EXPECT_EQ(m_zone.GetUndoType(), 1);
-    m_zone.Undo();
-    EXPECT_EQ(Plain(), "abc\r\ndef");
-    EXPECT_EQ(m_zone.GetUndoType(), 0);
 }

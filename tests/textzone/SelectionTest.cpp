@@ -8,14 +8,27 @@ namespace {
 
 class SelectionTest : public ZoneTest {
 protected:
-    void Select(int l0, int c0, int l1, int c1) { m_zone.SetSelection(l0, l1, c0, c1, 0, 0); }
-    void SelectOffsets(LONG lStart, LONG lEnd) { m_zone.SetSelection(lStart, lEnd, 0, 0, 1, 0); }
     void ExpectSelection(int l0, int c0, int l1, int c1) {
         EXPECT_EQ(m_zone.m_nSelStartLine, l0);
         EXPECT_EQ(m_zone.m_nSelStartChar, c0);
         EXPECT_EQ(m_zone.m_nSelEndLine, l1);
         EXPECT_EQ(m_zone.m_nSelEndChar, c1);
     }
+    // Sets a selection in raw (line, char) or offset form and checks where it lands.
+    struct Case {
+        int a, b, c, d, l0, c0, l1, c1;
+    };
+    void Check(bool bOffsets, std::initializer_list<Case> cases) {
+        for (const Case& s : cases) {
+            SCOPED_TRACE(testing::Message() << s.a << ',' << s.b << ',' << s.c << ',' << s.d);
+            if (bOffsets)
+                m_zone.SetSelection(s.a, s.b, 0, 0, 1, 0);
+            else
+                m_zone.SetSelection(s.a, s.c, s.b, s.d, 0, 0);
+            ExpectSelection(s.l0, s.c0, s.l1, s.c1);
+        }
+    }
+    void Select(int l0, int c0, int l1, int c1) { m_zone.SetSelection(l0, l1, c0, c1, 0, 0); }
     std::string Selected(WORD wFlags, LONG lSize = 256) {
         std::vector<char> buffer(static_cast<size_t>(lSize) + 1, '#');
         m_zone.GetSelectedText(buffer.data(), lSize, wFlags);
@@ -30,8 +43,7 @@ public:
     void DrawCaret(int bScroll, int bHorizontal) override {
         m_carets.push_back({bScroll, bHorizontal});
     }
-    std::vector<std::pair<int, int>> m_redraws;
-    std::vector<std::pair<int, int>> m_carets;
+    std::vector<std::pair<int, int>> m_redraws, m_carets;
 };
 
 }  // namespace
@@ -39,22 +51,10 @@ public:
 TEST_F(SelectionTest, RawFormBringsLinesToTheTextAndRaisesTheEnd) {
     ASSERT_TRUE(m_zone.SetText("abc\r\ndef"));
     m_zone.m_nSelectionMode = 0;
-
-    // Lines outside the text go behind it, at character 0.
-    Select(5, 3, 7, 3);
-    ExpectSelection(2, 0, 2, 0);
-    Select(-1, 2, 1, 1);
-    ExpectSelection(2, 0, 2, 1);
-
-    // An end before the start is raised to it, not swapped.
-    Select(1, 2, 0, 1);
-    ExpectSelection(1, 2, 1, 2);
-    Select(0, 2, 0, 1);
-    ExpectSelection(0, 2, 0, 2);
-
-    // Characters are not checked against the line: a free caret may stand anywhere.
-    Select(0, 1, 1, 9);
-    ExpectSelection(0, 1, 1, 9);
+    // Outside lines go behind the text at char 0; an early end is raised, not
+    // swapped; characters are not checked against the line (free caret).
+    Check(false, {{5, 3, 7, 3, 2, 0, 2, 0}, {-1, 2, 1, 1, 2, 0, 2, 1}, {1, 2, 0, 1, 1, 2, 1, 2},
+                  {0, 2, 0, 1, 0, 2, 0, 2}, {0, 1, 1, 9, 0, 1, 1, 9}});
     EXPECT_EQ(m_zone.GetSelRootLine(), 0);
     EXPECT_EQ(m_zone.GetSelRootChar(), 1);
     EXPECT_EQ(m_zone.GetSelectionMode(), 0);  // the raw form keeps the mode
@@ -67,50 +67,27 @@ TEST_F(SelectionTest, RawFormBringsLinesToTheTextAndRaisesTheEnd) {
     EXPECT_EQ(m_zone.GetSelectionMode(), 2);
     ExpectSelection(0, 4, 2, 2);
 
-    // Behind a text that ends in a line end is the phantom line, at character 0.
-    ASSERT_TRUE(m_zone.SetText("abc\r\n"));
-    Select(2, 4, 2, 4);
-    ExpectSelection(1, 0, 1, 0);
-    Select(1, 4, 1, 4);
-    ExpectSelection(1, 0, 1, 0);
+    ASSERT_TRUE(m_zone.SetText("abc\r\n"));  // behind it: the phantom line
+    Check(false, {{2, 4, 2, 4, 1, 0, 1, 0}, {1, 4, 1, 4, 1, 0, 1, 0}});
 }
 
 TEST_F(SelectionTest, OffsetFormAndItsSpecialValues) {
     ASSERT_TRUE(m_zone.SetText("abc\r\ndef"));
     m_zone.m_nSelectionMode = 0;
-    SelectOffsets(0, -1);
-    ExpectSelection(0, 0, 1, 3);
+    Check(true, {{0, -1, 0, 0, 0, 0, 1, 3}});
     EXPECT_EQ(m_zone.GetSelectionMode(), 1);
-
-    // Just behind a line's text is still that line; one further is the next.
-    SelectOffsets(3, 4);
-    ExpectSelection(0, 3, 1, 0);
-    SelectOffsets(-1, -1);
-    ExpectSelection(1, 3, 1, 3);
-    SelectOffsets(-2, -2);
-    ExpectSelection(2, 0, 2, 0);
-    SelectOffsets(1, -2);
-    ExpectSelection(0, 1, 2, 0);
-    SelectOffsets(100, 200);
-    ExpectSelection(1, 3, 1, 3);
-    // An end before the start is found on the start's line and raised.
-    SelectOffsets(5, 2);
-    ExpectSelection(1, 1, 1, 1);
-
+    Check(true, {{3, 4, 0, 0, 0, 3, 1, 0},
+                 {-1, -1, 0, 0, 1, 3, 1, 3},
+                 {-2, -2, 0, 0, 2, 0, 2, 0},
+                 {1, -2, 0, 0, 0, 1, 2, 0},
+                 {100, 200, 0, 0, 1, 3, 1, 3},
+                 {5, 2, 0, 0, 1, 1, 1, 1}});
     ASSERT_TRUE(m_zone.SetText("abc\r\n"));
-    SelectOffsets(0, -1);
-    ExpectSelection(0, 0, 1, 0);
-    SelectOffsets(4, 4);
-    ExpectSelection(1, 0, 1, 0);
-    SelectOffsets(-1, -1);
-    ExpectSelection(1, 0, 1, 0);
+    Check(true, {{0, -1, 0, 0, 0, 0, 1, 0}, {4, 4, 0, 0, 1, 0, 1, 0}, {-1, -1, 0, 0, 1, 0, 1, 0}});
 
-    CTestZone empty;
+    CTestZone empty;  // no lines at all
     empty.SetSelection(0, -1, 0, 0, 1, 0);
-    EXPECT_EQ(empty.m_nSelStartLine, 0);
-    EXPECT_EQ(empty.m_nSelEndLine, 0);
-    EXPECT_EQ(empty.m_nSelEndChar, 0);
-    EXPECT_FALSE(empty.TestSelection());
+    EXPECT_EQ(std::make_pair(empty.m_nSelEndLine, empty.m_nSelEndChar), std::make_pair(0, 0));
 }
 
 TEST_F(SelectionTest, GetSelectionInItsThreeForms) {
@@ -119,36 +96,23 @@ TEST_F(SelectionTest, GetSelectionInItsThreeForms) {
     LONG start = -9, end = -9;
     int startChar = -9, endChar = -9;
     EXPECT_EQ(m_zone.GetSelection(&start, &end, &startChar, &endChar, 0), 1);
-    EXPECT_EQ(start, 0);
-    EXPECT_EQ(end, 1);
-    EXPECT_EQ(startChar, 1);
-    EXPECT_EQ(endChar, 2);
-
-    EXPECT_EQ(m_zone.GetSelection(&start, &end, nullptr, nullptr, 1), 1);
-    EXPECT_EQ(start, 1);
-    EXPECT_EQ(end, 6);
+    EXPECT_EQ(std::vector<LONG>({start, end, startChar, endChar}), std::vector<LONG>({0, 1, 1, 2}));
     start = end = -9;
     m_zone.GetSelection(&start, nullptr, nullptr, nullptr, 1);
-    EXPECT_EQ(start, 1);
     m_zone.GetSelection(nullptr, &end, nullptr, nullptr, 1);
-    EXPECT_EQ(end, 6);
+    EXPECT_EQ(std::make_pair(start, end), std::make_pair(LONG(1), LONG(6)));
 
     // A free caret's characters are limited to the line; the phantom line is the text's end.
     Select(0, 10, 2, 0);
-    m_zone.GetSelection(&start, &end, nullptr, nullptr, 1);
-    EXPECT_EQ(start, 3);
-    EXPECT_EQ(end, 8);
-
+    EXPECT_EQ(m_zone.GetSelection(&start, &end, nullptr, nullptr, 1), 1);
+    EXPECT_EQ(std::make_pair(start, end), std::make_pair(LONG(3), LONG(8)));
     m_zone.GetSelection(&start, &end, &startChar, &endChar, 2);
-    EXPECT_EQ(start, 0);
-    EXPECT_EQ(end, 2);
-    EXPECT_EQ(startChar, 0);
-    EXPECT_EQ(endChar, 0x7FFFFFFF);
+    EXPECT_EQ(std::vector<LONG>({start, end, startChar, endChar}),
+              std::vector<LONG>({0, 2, 0, 0x7FFFFFFF}));
 
     m_zone.SetSelection(0, 1, 2, 3, 2, 0);
     EXPECT_EQ(m_zone.GetSelection(&start, &end, &startChar, &endChar, 2), 2);
-    EXPECT_EQ(startChar, 2);
-    EXPECT_EQ(endChar, 3);
+    EXPECT_EQ(std::make_pair(startChar, endChar), std::make_pair(2, 3));
     m_zone.GetSelection(nullptr, nullptr, nullptr, nullptr, 0);
 }
 
@@ -160,19 +124,14 @@ TEST_F(SelectionTest, RedrawCoversOldAndNewLines) {
     zone.SetRect(&client);
     zone.SetFont(m_font);
     ASSERT_TRUE(zone.SetText("0\r\n1\r\n2\r\n3\r\n4\r\n5"));
-
     zone.SetSelection(1, 2, 0, 0, 0, 0);
     zone.m_redraws.clear();
     zone.m_carets.clear();
     zone.SetSelection(4, 5, 0, 0, 0, 1);
-    ASSERT_EQ(zone.m_redraws.size(), 1u);
-    EXPECT_EQ(zone.m_redraws[0], std::make_pair(1, 5));
-    ASSERT_EQ(zone.m_carets.size(), 1u);
-    EXPECT_EQ(zone.m_carets[0], std::make_pair(1, 1));
-
     zone.SetSelection(0, 0, 0, 0, 0, 1);
-    EXPECT_EQ(zone.m_redraws.back(), std::make_pair(0, 5));
-
+    EXPECT_EQ(zone.m_redraws, (std::vector<std::pair<int, int>>{{1, 5}, {0, 5}}));
+    ASSERT_FALSE(zone.m_carets.empty());
+    EXPECT_EQ(zone.m_carets[0], std::make_pair(1, 1));
     zone.m_redraws.clear();
     zone.SetSelection(2, 3, 0, 0, 0, 0);
     EXPECT_TRUE(zone.m_redraws.empty());
@@ -181,32 +140,29 @@ TEST_F(SelectionTest, RedrawCoversOldAndNewLines) {
 
 TEST_F(SelectionTest, SelectedTextInStreamMode) {
     ASSERT_TRUE(m_zone.SetText("ab\r\ncd\r\nef"));
-    EXPECT_EQ(Selected(TF_CRLF), "");
-    EXPECT_EQ(m_zone.GetSelectedTextLength(TF_CRLF), 0);
-
-    Select(0, 1, 2, 1);
-    EXPECT_EQ(Selected(0), "b\rcd\re");
-    EXPECT_EQ(Selected(TF_LF), "b\ncd\ne");
-    EXPECT_EQ(Selected(TF_CRLF), "b\r\ncd\r\ne");
-    EXPECT_EQ(m_zone.GetSelectedTextLength(0), 6);
-    EXPECT_EQ(m_zone.GetSelectedTextLength(TF_CRLF), 8);
-
-    // Bit 4 ends the last line too; a short buffer drops what does not fit,
-    // and a line end that does not fit whole.
-    Select(0, 1, 0, 2);
-    EXPECT_EQ(Selected(TF_CRLF | TF_WRAPPED_ENDS), "b\r\n");
-    EXPECT_EQ(m_zone.GetSelectedTextLength(TF_CRLF | TF_WRAPPED_ENDS), 3);
+    // Text, length; TF_WRAPPED_ENDS ends the last line too; past a line's end come spaces.
+    const struct {
+        int l0, c0, l1, c1;
+        WORD wFlags;
+        const char* psz;
+    } cases[] = {
+        {0, 1, 2, 1, 0, "b\rcd\re"},       {0, 1, 2, 1, TF_LF, "b\ncd\ne"},
+        {0, 1, 2, 1, TF_CRLF, "b\r\ncd\r\ne"}, {0, 1, 0, 2, TF_CRLF | TF_WRAPPED_ENDS, "b\r\n"},
+        {2, 1, 2, 4, 0, "f  "},            {1, 0, 1, 0, TF_CRLF, ""},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.psz);
+        Select(c.l0, c.c0, c.l1, c.c1);
+        EXPECT_EQ(Selected(c.wFlags), c.psz);
+        EXPECT_EQ(m_zone.GetSelectedTextLength(c.wFlags), LONG(std::string(c.psz).size()));
+    }
+    // A short buffer drops what does not fit, and a line end that does not fit whole.
     Select(0, 1, 2, 1);
     EXPECT_EQ(Selected(TF_CRLF, 4), "b\r\n");
     EXPECT_EQ(Selected(TF_CRLF, 3), "bc");
     EXPECT_EQ(Selected(TF_CRLF, 1), "");
 
-    // Past the end of a line come spaces.
-    Select(2, 1, 2, 4);
-    EXPECT_EQ(Selected(0), "f  ");
-    EXPECT_EQ(m_zone.GetSelectedTextLength(0), 3);
-
-    // A wrapped paragraph comes out as one line unless bit 4 asks otherwise.
+    // A wrapped paragraph comes out as one line unless TF_WRAPPED_ENDS asks otherwise.
     m_zone.GetLine(0)->keepLeft(2);
     m_zone.m_dwStyle |= ZS_PARAGRAPH;
     Select(0, 0, 1, 2);
@@ -218,26 +174,20 @@ TEST_F(SelectionTest, SelectedTextInStreamMode) {
     EXPECT_EQ(Selected(0), "ab\rcd");
 }
 
-TEST_F(SelectionTest, SelectedTextInLineMode) {
+TEST_F(SelectionTest, SelectedTextInLineAndBoxMode) {
     ASSERT_TRUE(m_zone.SetText("ab\r\ncd\r\nef"));
     m_zone.m_nSelectionMode = 0;
-    // Whole lines, the end line left out; characters play no part.
+    // Whole lines, the end line left out; the length leaves out the last line end.
     Select(0, 1, 2, 1);
     EXPECT_EQ(Selected(TF_LF), "ab\ncd\n");
-    // The length leaves out the last line end: it is a size, and its users add room.
     EXPECT_EQ(m_zone.GetSelectedTextLength(TF_LF), 5);
     Select(1, 0, 3, 0);
     EXPECT_EQ(Selected(TF_LF), "cd\nef");
     EXPECT_EQ(Selected(TF_LF | TF_WRAPPED_ENDS), "cd\nef\n");
-    EXPECT_EQ(m_zone.GetSelectedTextLength(TF_LF), 5);
-    // One line and two characters: a selection of no lines.
-    Select(1, 0, 1, 2);
-    EXPECT_EQ(Selected(TF_LF), "");
+    Select(1, 0, 1, 2);  // one line: no lines
     EXPECT_EQ(m_zone.GetSelectedTextLength(TF_LF), 0);
-}
 
-TEST_F(SelectionTest, SelectedTextInBoxModeIsPaddedAndEndsEveryLine) {
-    m_zone.SetTabWidth(-4);
+    m_zone.SetTabWidth(-4);  // box: padded, every line ended
     ASSERT_TRUE(m_zone.SetText("a\tb\r\nxy"));
     m_zone.SetSelection(0, 1, 1, 5, 2, 0);
     EXPECT_EQ(Selected(0), "   b\ry   \r");
