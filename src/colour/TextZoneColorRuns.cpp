@@ -142,9 +142,10 @@ void CTextZoneColor::KeywordPass(std::string& text, const char* const* const* pp
 }
 
 void CTextZoneColor::VariablePass(std::string& text) {
-    // The search and the look at the byte before an "@" go over a copy, so
-    // that a variable taken earlier still counts as a variable byte: "@a@b"
-    // colours "@a", and the "@b" stuck to it is no variable.
+    // An "@" stuck behind a variable byte is blanked with what follows it in
+    // a copy before any variable is measured, so "@a@b" colours "@a" and
+    // leaves "@b" plain: the blanks behind a variable are looked for in the
+    // text, where that "@b" still stands.
     std::string copy = text;
     const int n = static_cast<int>(copy.size());
     for (int p = 0; p < n; ++p) {
@@ -162,7 +163,7 @@ void CTextZoneColor::VariablePass(std::string& text) {
         int end = p + 1;
         while (end < n && IsVariableChar(static_cast<unsigned char>(copy[end])))
             ++end;
-        end = SkipBlanks(copy, end);
+        end = SkipBlanks(text, end);
         AddColorDef(p, m_crSyntax[SC_VARIABLE - 1]);
         CloseColorDef(end);
         Overwrite(copy, p, end);
