@@ -21,8 +21,10 @@ TEST_F(LineColourTest, SqlIdentifiersStringsAndVariables) {
     m_zone.SetSQLSyntaxColor(14);
     // "@@" globals are words of table 2; what is left are the user's variables.
     EXPECT_EQ(RunsOf("if @@error<>0"), "0 KeyWord1, 3 KeyWord3, 10 Text");
-    EXPECT_EQ(RunsOf("set @a@b = @"), "0 KeyWord1, 4 Variable, 9 Text, 11 Variable, 12 Text");
-    EXPECT_EQ(RunsOf("x@y, @@mine"), "0 Text, 5 Variable, 11 Text");
+    // An "@" glued behind a variable byte is no variable, nor is what follows
+    // it: "@a@b" colours "@a", "@@x" (no global) colours "@". A lone "@" is one.
+    EXPECT_EQ(RunsOf("set @a@b = @"), "0 KeyWord1, 4 Variable, 6 Text, 11 Variable, 12 Text");
+    EXPECT_EQ(RunsOf("x@y, @@mine"), "0 Text, 5 Variable, 6 Text");
     // An unclosed string runs on across lines in SQL.
     m_zone.SetText("print 'a\nb' + 'c'\n");
     EXPECT_EQ(Runs(1), "0 String, 3 Text, 5 String, 8 Text");
