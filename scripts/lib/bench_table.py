@@ -29,6 +29,8 @@ TASKS = [
     ("UndoApi", "Undo the 100 inserted characters"),
     ("Find", "Find a word near the end"),
     ("Paint", "Paint one screen (800 x 600)"),
+    ("DefineColors", "Colour runs of 60 dense T-SQL lines (dialect 90)"),
+    ("StartWithWhat", "Start state of the last line, from a cold start"),
 ]
 
 
