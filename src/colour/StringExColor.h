@@ -15,8 +15,8 @@ public:
     CStringExColor(const CStringExColor& src) = default;
     CStringExColor& operator=(const CStringExColor& src) = default;
 
-    // 1 when the visible text has at least two characters, ends in "_" and
-    // has a blank or a tab before it: a Visual Basic line that goes on.
+    // 1 when the visible text has at least two characters and the line ends
+    // in a blank or a tab and "_": a Visual Basic line that goes on.
     virtual int IsVBContinueEnding();
 
     std::uint32_t m_nStartType = 0;

@@ -201,6 +201,9 @@ int CTextZoneColor::FindOpener(const char* pText, int nFrom, int nLineComment, i
 }
 
 std::uint32_t CTextZoneColor::AdvanceState(CStringExColor* pLine, std::uint32_t nState) {
+    // Markup states come with the embedded languages; until then a markup
+    // line starts as plain text.
+    if (m_bHtml) return LS_PLAIN;
     const char* t = pLine->c_str();
     int pos = 0;
     int nLength = 0;

@@ -107,8 +107,9 @@ TEST(ColourModel, ContinuationEnding) {
         int expected;
     };
     const Case cases[] = {
-        {"x = 1 _", 1}, {"x = 1\t_\r", 1}, {" _", 1},  {"x _  \t", 1},  // trailing blanks don't count
-        {"a_", 0},      {"_", 0},          {"", 0},    {"x _ y", 0},    {"x __", 0},
+        {"x = 1 _", 1}, {"x = 1\t_\r", 1}, {" _", 1}, {"\t_", 1},
+        {"a_", 0},      {"_", 0},          {"", 0},   {"x _ y", 0},  {"x __", 0},
+        {"x _ ", 0},    {"x _\t\r", 0},  // a blank behind the "_"
     };
     for (const Case& c : cases) {
         CStringExColor line(c.text);
