@@ -140,7 +140,8 @@ void Register() {
         ->Unit(benchmark::kMillisecond)
         ->UseManualTime();
     for (int size : {bench::kSmall, bench::kLarge, bench::kHuge}) {
-        auto* b = benchmark::RegisterBenchmark("StartWithWhat/Textzone", BM_StartWithWhat)->Arg(size);
+        auto* b =
+            benchmark::RegisterBenchmark("StartWithWhat/Textzone", BM_StartWithWhat)->Arg(size);
         b->Unit(benchmark::kMillisecond)->UseManualTime();
         if (size == bench::kHuge) b->Iterations(3);
     }

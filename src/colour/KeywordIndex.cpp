@@ -81,8 +81,8 @@ void CKeywordIndex::Take(std::string& text, bool bFold, KeywordBounds bounds,
         const auto& bucket = m_buckets[static_cast<unsigned char>(m[p])];
         for (const Entry& e : bucket) {
             if (e.nLength > n - p) continue;
-            if (e.nLength > 1 && (m[p + 1] != e.cSecond ||
-                                  std::memcmp(m + p + 2, e.pWord + 2, e.nLength - 2u) != 0))
+            if (e.nLength > 1 &&
+                (m[p + 1] != e.cSecond || std::memcmp(m + p + 2, e.pWord + 2, e.nLength - 2u) != 0))
                 continue;
             m_hits[e.nTable].push_back(
                 {(static_cast<std::uint64_t>(e.nIndex) << 32) | static_cast<std::uint32_t>(p),

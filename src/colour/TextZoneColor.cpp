@@ -82,8 +82,8 @@ unsigned long CTextZoneColor::GetSyntaxColor(unsigned int nClass) {
     return nClass >= 1 && nClass <= 9 ? m_crSyntax[nClass - 1] : 0;
 }
 
-void CTextZoneColor::EnableSyntaxColor(int bEnable, int bSlashSlash, int bDashDash,
-                                       int bBackslash, int bSql, int bNested, int nSqlVersion) {
+void CTextZoneColor::EnableSyntaxColor(int bEnable, int bSlashSlash, int bDashDash, int bBackslash,
+                                       int bSql, int bNested, int nSqlVersion) {
     m_bSyntaxColor = bEnable;
     m_bSlashSlashComment = bSlashSlash;
     m_bDashDashComment = bDashDash;

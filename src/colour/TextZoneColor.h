@@ -40,11 +40,11 @@ constexpr unsigned int SC_VARIABLE = 9;
 // Start states of a line, for every language but the markup ones.
 constexpr std::uint32_t LS_UNKNOWN = 0;
 constexpr std::uint32_t LS_PLAIN = 1;
-constexpr std::uint32_t LS_QUOTE = 2;       // inside a ' string
-constexpr std::uint32_t LS_DOUBLE = 3;      // inside a " string
-constexpr std::uint32_t LS_BRACKET = 4;     // inside a [ identifier
-constexpr std::uint32_t LS_COMMENT = 5;     // a block comment; 5 + n with n more nested
-constexpr std::uint32_t LS_BRACE = 6;       // a Pascal { comment
+constexpr std::uint32_t LS_QUOTE = 2;    // inside a ' string
+constexpr std::uint32_t LS_DOUBLE = 3;   // inside a " string
+constexpr std::uint32_t LS_BRACKET = 4;  // inside a [ identifier
+constexpr std::uint32_t LS_COMMENT = 5;  // a block comment; 5 + n with n more nested
+constexpr std::uint32_t LS_BRACE = 6;    // a Pascal { comment
 
 class CTextZoneColor : public CTextZone {
 public:

@@ -23,9 +23,9 @@ void CTextZoneColor::DefineJclColors(std::string& text, const char* const* const
         return;
     }
     const unsigned char third = static_cast<unsigned char>(t[2]);
-    const bool bShortHead = std::strncmp(t, "/*", 2) == 0 ||
-                            (std::isalpha(static_cast<unsigned char>(t[0])) &&
-                             std::isalpha(static_cast<unsigned char>(t[1])));
+    const bool bShortHead =
+        std::strncmp(t, "/*", 2) == 0 || (std::isalpha(static_cast<unsigned char>(t[0])) &&
+                                          std::isalpha(static_cast<unsigned char>(t[1])));
     if (bShortHead && (third == ' ' || third == '\t' || third == '\f' || third == '\r' || !third)) {
         AddColorDef(0, crComment);
         return;

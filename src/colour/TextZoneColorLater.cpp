@@ -28,8 +28,8 @@ void CTextZoneColor::SetParmCompletionMode(unsigned int nMode) {
     m_nParmCompletionMode = nMode;
 }
 
-void CTextZoneColor::AddParmCompletionSet(int, char const*, char const*, char const*,
-                                          char const*) {}
+void CTextZoneColor::AddParmCompletionSet(int, char const*, char const*, char const*, char const*) {
+}
 
 void CTextZoneColor::OnNewParmCompletionRequest(int, char const*) {}
 

@@ -131,8 +131,7 @@ void CTextZoneColor::TokenPass(std::string& text) {
 
 void CTextZoneColor::KeywordPass(std::string& text, const char* const* const* ppTables, int nTables,
                                  const COLORREF* pColors, bool bFold, KeywordBounds bounds) {
-    if (!m_keywordIndex.IsBuiltFor(ppTables, nTables))
-        m_keywordIndex.Build(ppTables, nTables);
+    if (!m_keywordIndex.IsBuiltFor(ppTables, nTables)) m_keywordIndex.Build(ppTables, nTables);
     m_keywordTokens.clear();
     m_keywordIndex.Take(text, bFold, bounds, m_keywordTokens);
     for (const KeywordToken& token : m_keywordTokens) {

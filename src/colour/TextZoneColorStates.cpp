@@ -85,16 +85,15 @@ bool CTextZoneColor::StartsWithRem(const char* pText) {
            IsBlank(pText[3]);
 }
 
-int CTextZoneColor::FindCloser(const char* pText, int nFrom, std::uint32_t* pState,
-                               bool bEscapes) {
+int CTextZoneColor::FindCloser(const char* pText, int nFrom, std::uint32_t* pState, bool bEscapes) {
     for (;;) {
         const std::uint32_t s = *pState;
-        const char* pszDelim = s == LS_QUOTE     ? "'"
-                               : s == LS_DOUBLE  ? "\""
-                               : s == LS_BRACKET ? "]"
+        const char* pszDelim = s == LS_QUOTE                         ? "'"
+                               : s == LS_DOUBLE                      ? "\""
+                               : s == LS_BRACKET                     ? "]"
                                : (s == LS_BRACE && m_bPascalComment) ? "}"
-                               : m_bPascalComment ? "*)"
-                                                  : "*/";
+                               : m_bPascalComment                    ? "*)"
+                                                                     : "*/";
         const int len = static_cast<int>(std::strlen(pszDelim));
         int h = Find(pText, nFrom, pszDelim);
         // "]]" inside an identifier stands for one "]".
@@ -134,8 +133,10 @@ int CTextZoneColor::FindOpener(const char* pText, int nFrom, int nLineComment, i
     set[n++] = '"';
     const bool bLineHere = nLineComment == -2;
     if (bLineHere) {
-        if (m_bSlashSlashComment) set[n++] = '/';
-        else if (m_bDashDashComment) set[n++] = '-';
+        if (m_bSlashSlashComment)
+            set[n++] = '/';
+        else if (m_bDashDashComment)
+            set[n++] = '-';
     }
     if (m_bSql) set[n++] = '[';
     set[n] = 0;

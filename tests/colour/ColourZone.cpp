@@ -62,19 +62,20 @@ std::string ColourTest::RunsOf(const char* pszText, int nLine) {
 std::string ColourTest::Dump() {
     std::string out;
     for (int n = 0; CStringEx* pLine = m_zone.GetLine(n); ++n) {
-        std::string text(pLine->c_str(), static_cast<size_t>(pLine->GetLength() - pLine->IsEnded()));
+        std::string text(pLine->c_str(),
+                         static_cast<size_t>(pLine->GetLength() - pLine->IsEnded()));
         out += std::to_string(n + 1) + ": " + text + "\n";
         m_zone.DefineColors(n, pLine);
         const auto& defs = m_zone.m_colorDefs;
         for (size_t i = 0; i < defs.size(); ++i) {
             const int from = defs[i]->nPos;
             const int to = i + 1 < defs.size() ? defs[i + 1]->nPos : static_cast<int>(text.size());
-            std::string piece = from < to && from < static_cast<int>(text.size())
-                                    ? text.substr(static_cast<size_t>(from),
-                                                  static_cast<size_t>(to - from))
-                                    : std::string();
-            out += "    " + std::to_string(from) + " " + ClassName(defs[i]->crColor) + " |" + piece +
-                   "|\n";
+            std::string piece =
+                from < to && from < static_cast<int>(text.size())
+                    ? text.substr(static_cast<size_t>(from), static_cast<size_t>(to - from))
+                    : std::string();
+            out += "    " + std::to_string(from) + " " + ClassName(defs[i]->crColor) + " |" +
+                   piece + "|\n";
         }
         m_zone.FreeColorDefs();
     }

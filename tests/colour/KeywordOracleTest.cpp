@@ -42,8 +42,7 @@ std::vector<KeywordToken> LiteralPass(std::string& text, const char** const* tab
     const size_t n = std::strlen(base);
     for (int t = 0; t < count; ++t) {
         const std::string remembered = text;
-        if (bFold)
-            VESK::CollatorFactory::getSystemCollator()->toLower(base, static_cast<int>(n));
+        if (bFold) VESK::CollatorFactory::getSystemCollator()->toLower(base, static_cast<int>(n));
         for (int i = 0; tables[t][i][0]; ++i) {
             const char* word = tables[t][i];
             const size_t len = std::strlen(word);
@@ -99,7 +98,7 @@ protected:
         m_zone.DefineKeywordList(m_tables);
         const bool bWords = m_zone.m_bSql || m_zone.m_bClientLanguage;
         m_bFold = bWords && !m_zone.m_bCaseSensitive;
-        m_bounds = !bWords                 ? KeywordBounds::CFamily
+        m_bounds = !bWords                  ? KeywordBounds::CFamily
                    : m_zone.m_bCobolComment ? KeywordBounds::SqlNoDash
                                             : KeywordBounds::Sql;
         m_index.Build(m_tables, 6);
@@ -111,7 +110,8 @@ protected:
         std::string slow = line;
         std::vector<KeywordToken> fastTokens;
         m_index.Take(fast, m_bFold, m_bounds, fastTokens);
-        const std::vector<KeywordToken> slowTokens = LiteralPass(slow, m_tables, 6, m_bFold, m_bounds);
+        const std::vector<KeywordToken> slowTokens =
+            LiteralPass(slow, m_tables, 6, m_bFold, m_bounds);
         bool same = fast == slow && fastTokens.size() == slowTokens.size();
         for (size_t i = 0; same && i < fastTokens.size(); ++i)
             same = fastTokens[i].nStart == slowTokens[i].nStart &&
@@ -147,8 +147,8 @@ TEST_F(KeywordOracleTest, GoldenSamples) {
 
 TEST_F(KeywordOracleTest, RandomLines) {
     std::mt19937 random(20261124);
-    const char* const pieces[] = {" ", "  ", "\t", "-", "#", "@", "_", ".", "(", ")", ",",
-                                  "x", "7", "\xE9", "\n", "/*", "&", "'", "=", "$", "~"};
+    const char* const pieces[] = {" ", "  ", "\t",   "-",  "#",  "@", "_", ".", "(", ")", ",",
+                                  "x", "7",  "\xE9", "\n", "/*", "&", "'", "=", "$", "~"};
     for (const Config& config : kConfigs) {
         Use(config.setup);
         std::vector<const char*> words;

@@ -72,7 +72,8 @@ TEST_F(LineColourTest, CommentsStringsAndEscapes) {
     EXPECT_EQ(Runs(1), "0 Comment, 11 Text");
     EXPECT_EQ(Runs(2), "0 String");
     // Within a line, "*/" is never escaped; a string's quote is.
-    EXPECT_EQ(RunsOf("x /* a \\*/ \"q\\\"\" y // z"), "0 Text, 2 Comment, 11 String, 17 Text, 19 Comment");
+    EXPECT_EQ(RunsOf("x /* a \\*/ \"q\\\"\" y // z"),
+              "0 Text, 2 Comment, 11 String, 17 Text, 19 Comment");
     // Nested comments: the line ends inside one, the next "*/" closes it.
     m_zone.SetSQLSyntaxColor(3);
     m_zone.SetText("/* /* */ x\n*/ y -- z\n");
@@ -115,8 +116,9 @@ TEST_F(LineColourTest, JclLines) {
     EXPECT_EQ(RunsOf("/*"), "0 Comment");
     EXPECT_EQ(RunsOf("AB EXEC"), "0 Comment");
     EXPECT_EQ(RunsOf("/"), "");
-    EXPECT_EQ(RunsOf("//S1 EXEC PGM=X,PARM='A B' END"),
-              "0 Comment, 2 Text, 5 KeyWord1, 10 KeyWord2, 13 Text, 21 String, 27 KeyWord2, 30 Text");
+    EXPECT_EQ(
+        RunsOf("//S1 EXEC PGM=X,PARM='A B' END"),
+        "0 Comment, 2 Text, 5 KeyWord1, 10 KeyWord2, 13 Text, 21 String, 27 KeyWord2, 30 Text");
     EXPECT_EQ(RunsOf("//s1 exec pgm=x"), "0 Comment, 2 Text");
     EXPECT_EQ(RunsOf("/*JOBPARM LINES=5 EXEC"), "0 KeyWord4, 10 Text");
     EXPECT_EQ(RunsOf("X EXEC"), "");
