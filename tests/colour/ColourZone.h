@@ -16,6 +16,7 @@ public:
     using CTextZoneColor::ContinuationPass;
     using CTextZoneColor::CreateLine;
     using CTextZoneColor::DefineColors;
+    using CTextZoneColor::FindOpener;
     using CTextZoneColor::ResetLastLines;
     using CTextZoneColor::StartWithWhat;
     using CTextZoneColor::TokenPass;
