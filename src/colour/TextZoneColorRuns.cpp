@@ -86,6 +86,10 @@ void CTextZoneColor::ContinuationPass(std::string& text, std::uint32_t nState) {
 
 void CTextZoneColor::TokenPass(std::string& text) {
     const int n = static_cast<int>(text.size());
+    // Each round takes the earliest opener, so nothing before the end of the
+    // last token can open anything: the search goes on from there, which
+    // keeps a long line full of strings linear.
+    int from = 0;
     for (;;) {
         const char* t = text.c_str();
         // A line comment found by the rules of the language rather than by
@@ -97,15 +101,16 @@ void CTextZoneColor::TokenPass(std::string& text) {
             if (t[0] == '*' || t[0] == '/' || std::strncmp(t, "      *", 7) == 0) {
                 nLineComment = 0;
             } else {
-                const char* q = std::strstr(t, "*>");
+                const char* q = std::strstr(t + from, "*>");
                 nLineComment = q ? static_cast<int>(q - t) : -1;
             }
         }
+        if (nLineComment >= 0 && nLineComment < from) nLineComment = -1;
 
         int nLength = 0;
         int nKind = 0;
         std::uint32_t nState = LS_PLAIN;
-        const int at = FindOpener(t, 0, nLineComment, &nLength, &nKind, &nState);
+        const int at = FindOpener(t, from, nLineComment, &nLength, &nKind, &nState);
         if (at < 0) return;
 
         COLORREF crColor = m_crSyntax[SC_STRING - 1];
@@ -126,6 +131,7 @@ void CTextZoneColor::TokenPass(std::string& text) {
             }
         }
         Overwrite(text, at, end);
+        from = end;
     }
 }
 
