@@ -117,22 +117,12 @@ TEST(ColourModel, ContinuationEnding) {
     }
 }
 
-TEST_F(ColourTest, LinesAreColourLinesAndCopiesKeepTheirState) {
-    CTestColorZone& zone = m_zone;
-    zone.SetText("a\nb\n");
-    for (int n = 0; n < 2; ++n)
-        EXPECT_NE(dynamic_cast<CStringExColor*>(zone.GetLine(n)), nullptr) << n;
-    EXPECT_EQ(zone.GetLine(2), nullptr);
-    CStringExColor line("abc");
-    line.m_nStartType = 3;
-    line.m_dwBookmarks = 5;
-    CStringExColor copy(line);
-    EXPECT_EQ(copy.m_nStartType, 3u);
-    EXPECT_EQ(copy.m_dwBookmarks, 5u);
-    CStringExColor other;
-    other = line;
-    EXPECT_EQ(other.m_nStartType, 3u);
-    EXPECT_STREQ(other.c_str(), "abc");
+TEST_F(ColourTest, EveryLineIsAColourLine) {
+    m_zone.SetText("a\nb\n");
+    m_zone.SetSelection(0, 0, 1, 1, 0, 0);
+    m_zone.InsertText("x\ny\n", 0, 0, 0);
+    for (int n = 0; m_zone.GetLine(n); ++n)
+        EXPECT_NE(dynamic_cast<CStringExColor*>(m_zone.GetLine(n)), nullptr) << n;
 }
 
 TEST_F(ColourTest, SettingsRoundTrip) {
