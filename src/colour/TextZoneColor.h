@@ -8,8 +8,9 @@
 // settings, the run pool), TextZoneColorEdit.cpp (the wrapped engine
 // operations), TextZoneColorLanguages.cpp, TextZoneColorStates.cpp (start
 // states and delimiter search), TextZoneColorRuns.cpp (DefineColors),
-// TextZoneColorJcl.cpp, TextZoneColorLater.cpp (completion and the
-// embedded languages, not in this zone yet).
+// TextZoneColorJcl.cpp, TextZoneColorDraw.cpp (DrawTextLine),
+// TextZoneColorKeys.cpp (HandleKeyDown), TextZoneColorLater.cpp (completion
+// and the embedded languages, not in this zone yet).
 #pragma once
 
 #include <cstdint>
@@ -147,6 +148,23 @@ protected:
     void VariablePass(std::string& text);
     void DefineJclColors(std::string& text, const char* const* const* ppTables);
     CStringExColor* GetColorLine(int nLine);
+
+    // --- Drawing and the edit wrappers (TextZoneColorDraw.cpp,
+    // TextZoneColorEdit.cpp, TextZoneColorKeys.cpp) ---
+    void DrawMarginMarks(CDC* pDC, DWORD marks, int y, int h);
+    // The states from nLine on are no longer trusted, and everything from
+    // the first selected line down is repainted (at once with bUpdate).
+    void InvalidateFrom(int nLine, int bUpdate);
+    // The bytes before and at the caret (the selection's start), 0 where
+    // there is none.
+    void BytesAroundCaret(char* pcBefore, char* pcAt);
+    // Whether the caret line ends in a backslash that goes on into the next
+    // line, and whether it ends in " _"; the state of the next line
+    // depends on both.
+    bool EndsInBackslash(int nLine);
+    bool HasContinuationEnding(int nLine);
+    // Whether the two bytes can take part in a comment delimiter.
+    bool FormsCommentDelimiter(char cBefore, char cAt);
 
 public:
     // The members, in the order of the class.
