@@ -34,8 +34,9 @@ void CTextZoneColor::HandleKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
     const bool bCFamily = !m_bSql && !m_bClientLanguage;
     bool bHadBackslash = false;
     bool bHadContinuation = false;
+    const int nWatchedLine = m_nSelStartLine;
     if (bWatch) {
-        const int nLine = m_nSelStartLine;
+        const int nLine = nWatchedLine;
         if (bCFamily) bHadBackslash = EndsInBackslash(nLine);
         if (m_bQuoteComment) bHadContinuation = HasContinuationEnding(nLine);
         CStringEx* pLine = GetLine(nLine);
@@ -75,7 +76,10 @@ void CTextZoneColor::HandleKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
 
     if (bWatch) {
         // A line that now ends differently carries its state on differently.
-        const int nLine = nChar == VK_RETURN ? m_nSelStartLine - 1 : m_nSelStartLine;
+        // The line is the one the caret was on: after Enter the one before
+        // the caret, after an edit the caret's own; a key that only moved
+        // the caret must not look at another line's ending.
+        const int nLine = nWatchedLine;
         if ((bCFamily && bHadBackslash != EndsInBackslash(nLine)) ||
             (m_bQuoteComment && bHadContinuation != HasContinuationEnding(nLine))) {
             ResetLastLines(nLine);
