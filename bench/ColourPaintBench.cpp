@@ -1,7 +1,8 @@
 // Coloured T-SQL (dialect 90) on the Qt backend, the engine as the editor
 // control in a CQtEditorWidget of 800 x 600 on Qt's offscreen platform:
 //   - a letter typed in the middle of the text, through Qt key events, with
-//     its repaint shown;
+//     its repaint shown (the engine paints at once into the window's image;
+//     Qt's next paint of the widget shows what changed);
 //   - a '*' typed behind a '/' at line 100, which opens a block comment: the
 //     states below are dropped and the screen repainted in the new colours;
 //   - Ctrl+End from the top with no state known below the first screen,
@@ -66,6 +67,24 @@ void SendKey(QWidget* pWidget, int key, Qt::KeyboardModifiers mods, const QStrin
     QCoreApplication::sendEvent(pWidget, &release);
 }
 
+// Counts the paints Qt delivers to a widget, so that a measured step is
+// known to have shown what it painted.
+class PaintCounter : public QObject {
+public:
+    explicit PaintCounter(QWidget* pWidget) : m_pWidget(pWidget) { pWidget->installEventFilter(this); }
+    ~PaintCounter() override { m_pWidget->removeEventFilter(this); }
+    int m_nPaints = 0;
+
+protected:
+    bool eventFilter(QObject*, QEvent* pEvent) override {
+        if (pEvent->type() == QEvent::Paint) ++m_nPaints;
+        return false;
+    }
+
+private:
+    QWidget* m_pWidget;
+};
+
 // The engine: a coloured zone in the editor control.
 class ColourEditor {
 public:
@@ -121,11 +140,14 @@ void BM_TypeColour(benchmark::State& state) {
     const int mid = bench::MiddleLine(ed.m_nLines);
     ed.Place(mid, 10, mid - 15);
     const int length = ed.Length(mid);
+    int paints = 0;
     for (auto _ : state) {
+        PaintCounter counter(ed.Window());
         state.SetIterationTime(Seconds([&] {
             SendKey(ed.Window(), Qt::Key_X, Qt::NoModifier, "x");
-            ed.Window()->repaint();
+            Settle();  // Qt shows what the engine painted
         }));
+        paints += counter.m_nPaints > 0;
         if (ed.Length(mid) != length + 1) {
             state.SkipWithError("the letter was not typed");
             break;
@@ -134,6 +156,7 @@ void BM_TypeColour(benchmark::State& state) {
         ed.Show();
     }
     if (ed.Length(mid) != length) state.SkipWithError("undo did not take the letter back");
+    if (paints < state.iterations()) state.SkipWithError("a letter was not shown by a paint");
 }
 
 void BM_OpenComment(benchmark::State& state) {
@@ -142,10 +165,12 @@ void BM_OpenComment(benchmark::State& state) {
     ed.Place(kCommentLine, 0, kCommentLine - 10);
     SendKey(ed.Window(), Qt::Key_Slash, Qt::NoModifier, "/");
     ed.Show();
+    int paints = 0;
     for (auto _ : state) {
+        PaintCounter counter(ed.Window());
         state.SetIterationTime(Seconds([&] {
             SendKey(ed.Window(), Qt::Key_Asterisk, Qt::NoModifier, "*");
-            ed.Window()->repaint();
+            Settle();  // Qt shows what the engine painted
         }));
         // The lines below are painted inside the comment now.
         if (ed.StartState(kCommentLine + 20) != LS_COMMENT ||
@@ -153,11 +178,13 @@ void BM_OpenComment(benchmark::State& state) {
             state.SkipWithError("the comment did not reach the lines below");
             break;
         }
+        paints += counter.m_nPaints > 0;
         SendKey(ed.Window(), Qt::Key_Backspace, Qt::NoModifier, "\b");
         ed.Show();
     }
     SendKey(ed.Window(), Qt::Key_Backspace, Qt::NoModifier, "\b");
     ed.Show();
+    if (paints < state.iterations()) state.SkipWithError("a keystroke was not shown by a paint");
 }
 
 void BM_CtrlEnd(benchmark::State& state) {
@@ -168,12 +195,21 @@ void BM_CtrlEnd(benchmark::State& state) {
         // No state known below the first screen, as after opening the file.
         ed.m_zone.SetSQLSyntaxColor(kTransactSql90);
         ed.Show();
+        PaintCounter counter(ed.Window());
         state.SetIterationTime(Seconds([&] {
             SendKey(ed.Window(), Qt::Key_End, Qt::ControlModifier, QString());
-            ed.Window()->repaint();
+            Settle();  // Qt shows what the engine painted
         }));
-        if (ed.m_zone.GetSelMobileLine() != last || ed.StartState(last - 1) == 0) {
-            state.SkipWithError("the end was not reached and painted");
+        if (counter.m_nPaints == 0) {
+            state.SkipWithError("the end was not shown by a paint");
+            break;
+        }
+        if (ed.m_zone.GetSelMobileLine() < last || ed.StartState(last) == 0) {
+            const std::string error = "the end was not reached and painted: caret line " +
+                                      std::to_string(ed.m_zone.GetSelMobileLine()) + " of " +
+                                      std::to_string(last) + ", state " +
+                                      std::to_string(ed.StartState(last));
+            state.SkipWithError(error.c_str());
             break;
         }
     }
