@@ -13,6 +13,8 @@
 //   bench_colour_qt [Google Benchmark flags]
 #include <benchmark/benchmark.h>
 
+#include <Qsci/qscilexersql.h>
+#include <Qsci/qsciscintilla.h>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPixmap>
@@ -21,8 +23,6 @@
 #include <QScrollBar>
 #include <QSyntaxHighlighter>
 #include <QTextBlock>
-#include <Qsci/qscilexersql.h>
-#include <Qsci/qsciscintilla.h>
 #include <chrono>
 #include <cstring>
 #include <memory>
@@ -71,7 +71,9 @@ void SendKey(QWidget* pWidget, int key, Qt::KeyboardModifiers mods, const QStrin
 // known to have shown what it painted.
 class PaintCounter : public QObject {
 public:
-    explicit PaintCounter(QWidget* pWidget) : m_pWidget(pWidget) { pWidget->installEventFilter(this); }
+    explicit PaintCounter(QWidget* pWidget) : m_pWidget(pWidget) {
+        pWidget->installEventFilter(this);
+    }
     ~PaintCounter() override { m_pWidget->removeEventFilter(this); }
     int m_nPaints = 0;
 
@@ -270,7 +272,8 @@ protected:
                       m_string);
         }
         const qsizetype dash = text.indexOf("--");
-        if (dash >= 0) setFormat(static_cast<int>(dash), static_cast<int>(text.size() - dash), m_comment);
+        if (dash >= 0)
+            setFormat(static_cast<int>(dash), static_cast<int>(text.size() - dash), m_comment);
         // Block comments carry over lines in the block state.
         qsizetype start = previousBlockState() == 1 ? 0 : text.indexOf("/*");
         setCurrentBlockState(0);
@@ -340,10 +343,8 @@ void BM_PaintColourPlain(benchmark::State& state) {
 
 void Register() {
     auto add = [](const char* name, void (*fn)(benchmark::State&), int size, int iterations = 0) {
-        auto* b = benchmark::RegisterBenchmark(name, fn)
-                      ->Arg(size)
-                      ->UseManualTime()
-                      ->Unit(benchmark::kMillisecond);
+        auto* b = benchmark::RegisterBenchmark(name, fn)->Arg(size)->UseManualTime()->Unit(
+            benchmark::kMillisecond);
         if (iterations) b->Iterations(iterations);
     };
     // The small sizes keep the smoke test of the test build going.

@@ -104,7 +104,9 @@ bool CDemoWindow::SaveFile(const QString& path) {
 
 QString CDemoWindow::CaretText() {
     CTextZone& zone = m_pEditor->Zone();
-    return QString("Ln %1, Col %2").arg(zone.GetSelMobileLine() + 1).arg(zone.GetSelMobileChar() + 1);
+    return QString("Ln %1, Col %2")
+        .arg(zone.GetSelMobileLine() + 1)
+        .arg(zone.GetSelMobileChar() + 1);
 }
 
 bool CDemoWindow::SaveScreenshot(const QString& path) {

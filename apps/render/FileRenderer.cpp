@@ -43,11 +43,20 @@ std::string HtmlColor(COLORREF cr) {
 void AppendEscaped(std::string& out, const char* p, size_t n) {
     for (size_t i = 0; i < n; ++i) {
         switch (p[i]) {
-            case '&': out += "&amp;"; break;
-            case '<': out += "&lt;"; break;
-            case '>': out += "&gt;"; break;
-            case '"': out += "&quot;"; break;
-            default: out += p[i];
+            case '&':
+                out += "&amp;";
+                break;
+            case '<':
+                out += "&lt;";
+                break;
+            case '>':
+                out += "&gt;";
+                break;
+            case '"':
+                out += "&quot;";
+                break;
+            default:
+                out += p[i];
         }
     }
 }

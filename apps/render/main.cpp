@@ -53,7 +53,8 @@ int main(int argc, char** argv) {
         } else if (is("--dialect")) {
             char* pEnd = nullptr;
             const long n = std::strtol(argv[++i], &pEnd, 10);
-            if (bLanguage || *pEnd || !CLanguageChoice::FromDialect(static_cast<int>(n), &language)) {
+            if (bLanguage || *pEnd ||
+                !CLanguageChoice::FromDialect(static_cast<int>(n), &language)) {
                 std::fprintf(stderr, "textzone-render: no SQL dialect %s\n", argv[i]);
                 return 2;
             }
@@ -91,7 +92,8 @@ int main(int argc, char** argv) {
                          renderer.GetShownLines());
     } else {
         std::ofstream out(pszHtml, std::ios::binary);
-        const std::string title = QFileInfo(QString::fromLocal8Bit(pszFile)).fileName().toStdString();
+        const std::string title =
+            QFileInfo(QString::fromLocal8Bit(pszFile)).fileName().toStdString();
         out << renderer.Html(title);
         if (!out) {
             std::fprintf(stderr, "textzone-render: cannot write %s\n", pszHtml);

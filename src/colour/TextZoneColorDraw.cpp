@@ -91,8 +91,7 @@ void CTextZoneColor::DrawTextLine(CDC* pDC, int nLine) {
     // Selection bounds on this line: two columns (-1 for none) at which the
     // drawing swaps between selected and plain, and the side it starts on.
     const bool bBox = m_nSelectionMode == 2;
-    const bool bInSelection =
-        TestSelection() && nLine >= m_nSelStartLine && nLine <= m_nSelEndLine;
+    const bool bInSelection = TestSelection() && nLine >= m_nSelStartLine && nLine <= m_nSelEndLine;
     int A = -1;
     int B = -1;
     bool bStartSelected = false;

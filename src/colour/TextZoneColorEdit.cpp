@@ -109,19 +109,17 @@ void CTextZoneColor::HandleChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
             }
             // The byte can make a delimiter with its neighbours.
             const bool dash = m_bDashDashComment || m_bHtml;
-            bInvalidate = bInvalidate || c == '"' || c == '\'' || c == '\\' ||
-                          (c == '~' && m_bTildeEscape) ||
-                          (m_bSlashStarComment &&
-                           ((c == '/' && (p == '*' || n == '*')) ||
-                            ((c == '*' || c == '/') && (p == '/' || n == '/')))) ||
-                          (m_bPascalComment &&
-                           (c == '{' || c == '}' || (c == '*' && (n == ')' || p == '(')) ||
-                            (c == ')' && p == '*') || (c == '(' && n == '*'))) ||
-                          (c == '-' && (p == '-' || n == '-') && dash) ||
-                          (m_bQuoteComment && ((c == '_' && (p == ' ' || p == '\t')) ||
-                                               (c == ' ' && n == '_'))) ||
-                          (m_bSql && (c == '[' || c == ']')) ||
-                          (m_bHtml && (c == '<' || c == '>'));
+            bInvalidate =
+                bInvalidate || c == '"' || c == '\'' || c == '\\' || (c == '~' && m_bTildeEscape) ||
+                (m_bSlashStarComment && ((c == '/' && (p == '*' || n == '*')) ||
+                                         ((c == '*' || c == '/') && (p == '/' || n == '/')))) ||
+                (m_bPascalComment &&
+                 (c == '{' || c == '}' || (c == '*' && (n == ')' || p == '(')) ||
+                  (c == ')' && p == '*') || (c == '(' && n == '*'))) ||
+                (c == '-' && (p == '-' || n == '-') && dash) ||
+                (m_bQuoteComment &&
+                 ((c == '_' && (p == ' ' || p == '\t')) || (c == ' ' && n == '_'))) ||
+                (m_bSql && (c == '[' || c == ']')) || (m_bHtml && (c == '<' || c == '>'));
             if (bInvalidate) InvalidateFrom(m_nSelStartLine, 0);
         }
     }

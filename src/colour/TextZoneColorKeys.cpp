@@ -50,8 +50,7 @@ void CTextZoneColor::HandleKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
                 break;
             case VK_TAB:
                 // Here "/*" counts whatever the language.
-                if ((p == '/' && n == '*') || (p == '*' && n == '/') ||
-                    FormsCommentDelimiter(p, n))
+                if ((p == '/' && n == '*') || (p == '*' && n == '/') || FormsCommentDelimiter(p, n))
                     InvalidateFrom(nLine, 0);
                 break;
             case VK_BACK:
@@ -68,8 +67,7 @@ void CTextZoneColor::HandleKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
                 break;
         }
     }
-    if ((nChar == VK_DELETE || nChar == VK_BACK) && IsBoxCaret() && !m_bReadOnly &&
-        m_bSyntaxColor)
+    if ((nChar == VK_DELETE || nChar == VK_BACK) && IsBoxCaret() && !m_bReadOnly && m_bSyntaxColor)
         InvalidateFrom(m_nSelStartLine, 0);
 
     CTextZone::HandleKeyDown(nChar, nRepCnt, nFlags);
@@ -92,8 +90,8 @@ void CTextZoneColor::HandleKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
         char n = 0;
         BytesAroundCaret(&p, &n);
         if (FormsCommentDelimiter(p, n) ||
-            (m_bQuoteComment && (p == '_' || n == '_' || p == ' ' || p == '\t' || n == ' ' ||
-                                 n == '\t')))
+            (m_bQuoteComment &&
+             (p == '_' || n == '_' || p == ' ' || p == '\t' || n == ' ' || n == '\t')))
             InvalidateFrom(m_nSelStartLine, 1);
     }
 

@@ -46,15 +46,15 @@ TEST_F(InvalidationTest, TypedBytesRepaintTheirLineUnlessTheyCanMakeOrBreakADeli
         int dirty;  // m_nFirstDirtyLine afterwards
     } cases[] = {
         {"int a;", 3, 'x', "3-3", kClean},
-        {"int a;", 3, '[', "3-3", kClean},    // no bracket names in C
-        {"a /", 3, '*', "3-18", 3},           // opens a comment
-        {"a / b", 2, '/', "3-18", 3},         // behind a slash
-        {"a * b", 3, '/', "3-18", 3},         // could close one
-        {"a /* b", 3, 'x', "3-18", 3},        // breaks the opener apart
-        {"s = 1;", 4, '"', "3-18", 3},        // quotes and escapes
+        {"int a;", 3, '[', "3-3", kClean},  // no bracket names in C
+        {"a /", 3, '*', "3-18", 3},         // opens a comment
+        {"a / b", 2, '/', "3-18", 3},       // behind a slash
+        {"a * b", 3, '/', "3-18", 3},       // could close one
+        {"a /* b", 3, 'x', "3-18", 3},      // breaks the opener apart
+        {"s = 1;", 4, '"', "3-18", 3},      // quotes and escapes
         {"s = 1;", 4, '\'', "3-18", 3},
-        {"s = 1; \\", 8, 'x', "3-18", 3},     // behind a final backslash
-        {"s = 1; \\", 3, 'x', "3-3", kClean}, // before it
+        {"s = 1; \\", 8, 'x', "3-18", 3},      // behind a final backslash
+        {"s = 1; \\", 3, 'x', "3-3", kClean},  // before it
     };
     for (const Case& c : cases) {
         Load(c.line, c.caret);
@@ -95,14 +95,14 @@ TEST_F(InvalidationTest, KeysResetStatesFromWhereTheirChangeCanReach) {
         const char* rows;
         int dirty;
     } cases[] = {
-        {"int a;", 3, VK_BACK, "3-3", kClean},       // a letter goes
+        {"int a;", 3, VK_BACK, "3-3", kClean},  // a letter goes
         {"int a;", 3, VK_DELETE, "3-3", kClean},
-        {"a */ b", 4, VK_BACK, "3-18", 3},           // the '/' of "*/" goes
-        {"a */ b", 2, VK_DELETE, "3-18", 3},         // its '*'
-        {"a /x* b", 4, VK_BACK, "3-18", 3},          // '/' and '*' come together
-        {"int a;", 0, VK_BACK, "2-18", 2},           // joins the line above
-        {"int a;", 6, VK_DELETE, "3-18", 3},         // joins the line below
-        {"a /* b", 3, VK_TAB, "3-18", 3},            // splits an opener
+        {"a */ b", 4, VK_BACK, "3-18", 3},    // the '/' of "*/" goes
+        {"a */ b", 2, VK_DELETE, "3-18", 3},  // its '*'
+        {"a /x* b", 4, VK_BACK, "3-18", 3},   // '/' and '*' come together
+        {"int a;", 0, VK_BACK, "2-18", 2},    // joins the line above
+        {"int a;", 6, VK_DELETE, "3-18", 3},  // joins the line below
+        {"a /* b", 3, VK_TAB, "3-18", 3},     // splits an opener
         {"int a;", 3, VK_TAB, "3-3", kClean},
     };
     for (const Case& c : cases) {

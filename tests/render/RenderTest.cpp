@@ -52,11 +52,11 @@ TEST(LanguageChoiceTest, ExtensionsIdsAndDialectsChooseTheColouring) {
         CLanguageChoice::Kind kind;
         unsigned int id;
     } cases[] = {
-        {"a/b/report.SQL", CLanguageChoice::Sql, 15},    {"pkg.pkb", CLanguageChoice::Sql, 107},
-        {"x.pls", CLanguageChoice::Sql, 107},            {"main.c", CLanguageChoice::Client, 1300},
-        {"Shapes.pas", CLanguageChoice::Client, 90},     {"page.htm", CLanguageChoice::Client, 310},
-        {"page.jsp", CLanguageChoice::Client, 610},      {"data.xml", CLanguageChoice::Client, 1090},
-        {"notes.txt", CLanguageChoice::None, 0},         {"dir.sql/README", CLanguageChoice::None, 0},
+        {"a/b/report.SQL", CLanguageChoice::Sql, 15}, {"pkg.pkb", CLanguageChoice::Sql, 107},
+        {"x.pls", CLanguageChoice::Sql, 107},         {"main.c", CLanguageChoice::Client, 1300},
+        {"Shapes.pas", CLanguageChoice::Client, 90},  {"page.htm", CLanguageChoice::Client, 310},
+        {"page.jsp", CLanguageChoice::Client, 610},   {"data.xml", CLanguageChoice::Client, 1090},
+        {"notes.txt", CLanguageChoice::None, 0},      {"dir.sql/README", CLanguageChoice::None, 0},
     };
     for (const Case& c : cases) {
         CLanguageChoice choice = CLanguageChoice::ForPath(c.path);
@@ -162,10 +162,10 @@ TEST_F(RenderTest, CommandLineWritesWhatItIsAskedAndRefusesTheRest) {
     QImage image(png);
     EXPECT_EQ(image.width(), 200);
 
-    EXPECT_EQ(run({sample}), 2);                                       // no output
-    EXPECT_EQ(run({sample, "--png", png, "--html", html}), 2);         // two
-    EXPECT_EQ(run({sample, "--html", html, "--width", "100"}), 2);     // a width for HTML
-    EXPECT_EQ(run({sample, "--lang", "cobolx", "--html", html}), 2);   // no such language
+    EXPECT_EQ(run({sample}), 2);                                      // no output
+    EXPECT_EQ(run({sample, "--png", png, "--html", html}), 2);        // two
+    EXPECT_EQ(run({sample, "--html", html, "--width", "100"}), 2);    // a width for HTML
+    EXPECT_EQ(run({sample, "--lang", "cobolx", "--html", html}), 2);  // no such language
     EXPECT_EQ(run({sample, "--dialect", "90x", "--html", html}), 2);
     EXPECT_EQ(run({dir.filePath("missing.sql"), "--html", html}), 1);  // cannot read
 }
