@@ -8,8 +8,9 @@
 // settings, the run pool), TextZoneColorEdit.cpp (the wrapped engine
 // operations), TextZoneColorLanguages.cpp, TextZoneColorStates.cpp (start
 // states and delimiter search), TextZoneColorRuns.cpp (DefineColors),
-// TextZoneColorJcl.cpp, TextZoneColorLater.cpp (completion and the
-// embedded languages, not in this zone yet).
+// TextZoneColorJcl.cpp, TextZoneColorMarkup*.cpp and TextZoneColorEmbedded.cpp
+// (markup and the script embedded in it), TextZoneColorLater.cpp (completion,
+// not in this zone yet).
 #pragma once
 
 #include <cstdint>
@@ -148,6 +149,21 @@ protected:
     void DefineJclColors(std::string& text, const char* const* const* ppTables);
     CStringExColor* GetColorLine(int nLine);
 
+    // --- Markup (TextZoneColorMarkup.cpp, TextZoneColorMarkupStates.cpp,
+    // TextZoneColorEmbedded.cpp) ---
+    // The runs of a markup line that starts in nState (MarkupStates.h).
+    void DefineMarkupColors(const std::string& text, std::uint32_t nState);
+    // The state at the end of a markup line that starts in nState.
+    std::uint32_t AdvanceMarkupState(const char* pText, std::uint32_t nState);
+    // The state the '<' at pLt opens, 0 for none; a "<%@" directive read on
+    // the way sets m_bServerScriptJava.
+    std::uint32_t OpenMarkup(const char* pLt);
+    void MarkupEntityPass(const std::string& text, int nFrom, int nTo);
+    void MarkupTagKeywordPass(const std::string& text, int nFrom, int nTo);
+    // BuildEmbeddedColor on the bytes [nFrom, nTo) of text.
+    void ColorEmbeddedPiece(const std::string& text, int nFrom, int nTo, std::uint32_t nType,
+                            bool bJava);
+
 public:
     // The members, in the order of the class.
     int m_bSyntaxColor = 1;
@@ -195,5 +211,8 @@ public:
 private:
     CKeywordIndex m_keywordIndex;  // of the tables the last line was coloured with
     std::vector<KeywordToken> m_keywordTokens;
+    CKeywordIndex m_markupIndex;       // element and attribute names
+    CKeywordIndex m_embeddedIndex[2];  // the VB-like and the Java-like script words
+    std::string m_embeddedPiece;       // scratch for the pieces of embedded script
     COLORREF m_crRunText = 0;  // the zone's text colour while a line is coloured
 };
