@@ -32,8 +32,8 @@ bool CEmbeddedGrammar::FindOpener(const char* pText, int nFrom, Opener* pOpener)
             return true;
         }
         if (*p == '\'') {
-            *pOpener = m_bJava ? Opener{at, 1, QUOTE, LS_QUOTE}
-                               : Opener{at, 1, LINE_COMMENT, LS_PLAIN};
+            *pOpener =
+                m_bJava ? Opener{at, 1, QUOTE, LS_QUOTE} : Opener{at, 1, LINE_COMMENT, LS_PLAIN};
             return true;
         }
         if (p[1] == '*') {

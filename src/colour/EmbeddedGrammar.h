@@ -13,10 +13,10 @@ public:
     enum Kind { BLOCK_COMMENT, QUOTE, DOUBLE, LINE_COMMENT };
 
     struct Opener {
-        int nAt;              // index of the opener
-        int nLength;          // its length
+        int nAt;      // index of the opener
+        int nLength;  // its length
         Kind nKind;
-        std::uint32_t nState; // the state it opens (LS_PLAIN for a line comment)
+        std::uint32_t nState;  // the state it opens (LS_PLAIN for a line comment)
     };
 
     explicit CEmbeddedGrammar(bool bJava) : m_bJava(bJava) {}

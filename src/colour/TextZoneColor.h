@@ -214,5 +214,5 @@ private:
     CKeywordIndex m_markupIndex;       // element and attribute names
     CKeywordIndex m_embeddedIndex[2];  // the VB-like and the Java-like script words
     std::string m_embeddedPiece;       // scratch for the pieces of embedded script
-    COLORREF m_crRunText = 0;  // the zone's text colour while a line is coloured
+    COLORREF m_crRunText = 0;          // the zone's text colour while a line is coloured
 };

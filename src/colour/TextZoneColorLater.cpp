@@ -1,7 +1,7 @@
 // Operations of the coloured zone that belong to word completion, parameter
-// tooltips and the comment-free line. They hold
-// their places in the class so that derived zones and hosts link against the
-// final interface; until they are built they change nothing.
+// tooltips and the comment-free line. They hold their places in the class so
+// that derived zones and hosts link against the final interface; until they
+// are built they change nothing.
 #include "colour/TextZoneColor.h"
 
 void CTextZoneColor::SetWordCompletion(unsigned int nMode) {

@@ -151,7 +151,8 @@ void CTextZoneColor::DefineMarkupColors(const std::string& text, std::uint32_t n
                 if (m_bServerPage && nState == MS_DIRECTIVE) {
                     AddColorDef(p, kDirectiveColor);
                     if (const char* pEnd = std::strstr(t + p, "%>")) next = At(t, pEnd) + 2;
-                } else if (m_bServerPage && nState == MS_SERVER && std::strncmp(t + p, "<%--", 4) == 0) {
+                } else if (m_bServerPage && nState == MS_SERVER &&
+                           std::strncmp(t + p, "<%--", 4) == 0) {
                     AddColorDef(p, m_crSyntax[SC_COMMENT - 1]);
                     next = p + 2;
                     nNext = MS_SERVER_COMMENT;

@@ -158,8 +158,7 @@ std::uint32_t CTextZoneColor::AdvanceMarkupState(const char* t, std::uint32_t nS
                 const std::uint32_t nOpened = pLt ? OpenMarkup(pLt) : 0;
                 if (!nOpened) return MS_TEXT;
                 if (nOpened == MS_PROCESSING || nOpened == MS_SERVER || nOpened == MS_DIRECTIVE) {
-                    const char* pEnd =
-                        std::strstr(pLt + 1, nOpened == MS_PROCESSING ? "?>" : "%>");
+                    const char* pEnd = std::strstr(pLt + 1, nOpened == MS_PROCESSING ? "?>" : "%>");
                     if (pEnd) {
                         p = At(t, pEnd) + 2;
                         nState = MS_TEXT;

@@ -38,19 +38,20 @@ TEST_F(EmbeddedTest, JavaLikeEndStates) {
         {"x = 1;", 1, 1},
         {"a /* b", 1, 5},
         {"a /* b */ c", 1, 1},
-        {"s = \"/*\"; t = '/*';", 1, 1},   // openers inside strings open nothing
-        {"s = \"open", 1, 1},               // a string never crosses a line
-        {"s = \"a\\\" /*", 1, 1},           // escaped quote: "/*" stays in the string
-        {"s = \"a\\\\\" /*", 1, 5},         // escaped backslash: the string closed
+        {"s = \"/*\"; t = '/*';", 1, 1},  // openers inside strings open nothing
+        {"s = \"open", 1, 1},             // a string never crosses a line
+        {"s = \"a\\\" /*", 1, 1},         // escaped quote: "/*" stays in the string
+        {"s = \"a\\\\\" /*", 1, 5},       // escaped backslash: the string closed
         {"// a /* b", 1, 1},
         {"b */ c", 5, 1},
         {"b", 5, 5},
         {"b */ /* c", 5, 5},
-        {"\" x /*", 3, 5},                  // a string state closes at its quote
+        {"\" x /*", 3, 5},  // a string state closes at its quote
         {"x", 3, 1},
-        {"rem a _", 1, 1},                  // rem means nothing here
+        {"rem a _", 1, 1},  // rem means nothing here
     };
-    for (const Case& c : cases) EXPECT_EQ(EndType(c.piece, c.type, true), c.end) << c.piece;
+    for (const Case& c : cases)
+        EXPECT_EQ(EndType(c.piece, c.type, true), c.end) << c.piece;
 }
 
 TEST_F(EmbeddedTest, VBLikeEndStates) {
@@ -60,18 +61,14 @@ TEST_F(EmbeddedTest, VBLikeEndStates) {
         unsigned int end;
     };
     const Case cases[] = {
-        {"rem a _\r", 1, 5},
-        {"  REM a _ ", 1, 5},
-        {"rem a", 1, 1},
-        {"x = 1 rem a _", 1, 1},       // rem only at the start
-        {"' a _", 1, 1},
-        {"x = \"it's\" ' /* b", 1, 1}, // no ' strings, and no block comments
-        {"x /* b", 1, 1},
-        {"goes on _", 5, 5},
-        {"stops", 5, 1},
-        {"s = \"a", 1, 1},
+        {"rem a _\r", 1, 5}, {"  REM a _ ", 1, 5},
+        {"rem a", 1, 1},     {"x = 1 rem a _", 1, 1},        // rem only at the start
+        {"' a _", 1, 1},     {"x = \"it's\" ' /* b", 1, 1},  // no ' strings, and no block comments
+        {"x /* b", 1, 1},    {"goes on _", 5, 5},
+        {"stops", 5, 1},     {"s = \"a", 1, 1},
     };
-    for (const Case& c : cases) EXPECT_EQ(EndType(c.piece, c.type, false), c.end) << c.piece;
+    for (const Case& c : cases)
+        EXPECT_EQ(EndType(c.piece, c.type, false), c.end) << c.piece;
 }
 
 TEST_F(EmbeddedTest, RunsAreOffsetIntoTheLine) {

@@ -12,11 +12,43 @@
 
 namespace {
 
-const char* const kPieces[] = {
-    "<", ">", "<b>", "</b>", "<td align=", "<script>", "<SCRIPT language=vbscript>",
-    "</script>", "</ SCRIPT", "<%", "%>", "<%--", "--%>", "<!", "--", "-->", "<?", "?>",
-    "\"", "'", "/*", "*/", "//", "rem ", " _", "\\", "\n", "\n", "&amp;", "&lt;", "x", " ",
-    "if ", "\t", "\xE9", "<\xE9", "\r\n"};
+const char* const kPieces[] = {"<",
+                               ">",
+                               "<b>",
+                               "</b>",
+                               "<td align=",
+                               "<script>",
+                               "<SCRIPT language=vbscript>",
+                               "</script>",
+                               "</ SCRIPT",
+                               "<%",
+                               "%>",
+                               "<%--",
+                               "--%>",
+                               "<!",
+                               "--",
+                               "-->",
+                               "<?",
+                               "?>",
+                               "\"",
+                               "'",
+                               "/*",
+                               "*/",
+                               "//",
+                               "rem ",
+                               " _",
+                               "\\",
+                               "\n",
+                               "\n",
+                               "&amp;",
+                               "&lt;",
+                               "x",
+                               " ",
+                               "if ",
+                               "\t",
+                               "\xE9",
+                               "<\xE9",
+                               "\r\n"};
 
 std::string RandomText(std::mt19937& random, bool bDirectives) {
     std::string text;
@@ -87,15 +119,15 @@ TEST_F(MarkupRandomTest, StatesKeptAcrossAnEditAreThoseOfAFreshWalk) {
             if (lines == 0) continue;
 
             const int line = static_cast<int>(random() % static_cast<unsigned>(lines));
-            const int at = static_cast<int>(random() % static_cast<unsigned>(
-                                                m_zone.GetLine(line)->GetVisibleLength() + 1));
+            const int at = static_cast<int>(
+                random() % static_cast<unsigned>(m_zone.GetLine(line)->GetVisibleLength() + 1));
             m_zone.SetSelection(line, line, at, at, 0, 0);
             m_zone.InsertText(RandomText(random, false).c_str(), 0, 0, 0);
 
             std::string edited;
             for (int n = 0; CStringEx* pLine = m_zone.GetLine(n); ++n) {
-                edited += std::string(pLine->c_str(), static_cast<size_t>(pLine->GetLength() -
-                                                                          pLine->IsEnded()));
+                edited += std::string(pLine->c_str(),
+                                      static_cast<size_t>(pLine->GetLength() - pLine->IsEnded()));
                 if (pLine->IsEnded()) edited += "\n";
             }
             CTestColorZone fresh;
@@ -104,7 +136,8 @@ TEST_F(MarkupRandomTest, StatesKeptAcrossAnEditAreThoseOfAFreshWalk) {
             fresh.SetText(edited.c_str());
             for (int n = 0; m_zone.GetLine(n); ++n)
                 ASSERT_EQ(m_zone.StartWithWhat(n), fresh.StartWithWhat(n))
-                    << "line " << n << " of\n" << edited;
+                    << "line " << n << " of\n"
+                    << edited;
         }
     }
 }

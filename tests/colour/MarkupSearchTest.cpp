@@ -49,14 +49,11 @@ TEST(MarkupSearchTest, CommentOpenerInADeclaration) {
         int at;
     };
     const Case cases[] = {
-        {"--x", 0},                // at the very start, whatever stands before it
-        {"<!-- c", 2},
-        {"a--b -- c", 5},          // glued to a word: not an opener
-        {"x1---- --", 7},          // the whole run of dashes is passed over
-        {"#-- c", -1},
-        {"\xE9-- c", 1},           // only ASCII letters and digits glue
-        {"- - -", -1},
-        {"", -1},
+        {"--x", 0},                          // at the very start, whatever stands before it
+        {"<!-- c", 2},    {"a--b -- c", 5},  // glued to a word: not an opener
+        {"x1---- --", 7},                    // the whole run of dashes is passed over
+        {"#-- c", -1},    {"\xE9-- c", 1},   // only ASCII letters and digits glue
+        {"- - -", -1},    {"", -1},
     };
     for (const Case& c : cases)
         EXPECT_EQ(Index(c.text, FindHtmlComment(c.text)), c.at) << c.text;

@@ -48,22 +48,19 @@ TEST_F(MarkupTest, ScriptBodiesAndTheirLanguage) {
     EXPECT_EQ(Runs(2), "0 Comment, 5 Text, 9 String");
     EXPECT_EQ(Runs(3), "0 Text");
     // The end of the body is found even inside a comment or a string.
-    EXPECT_EQ(States("<script>/* a\n</scripts> <b>\nx\n"),
-              (S{1, Embedded(MS_SCRIPT, 5), 1}));
+    EXPECT_EQ(States("<script>/* a\n</scripts> <b>\nx\n"), (S{1, Embedded(MS_SCRIPT, 5), 1}));
     // "scripts" is no element name; the tag behind it is read as usual.
     EXPECT_EQ(Runs(1), "0 KeyWord3, 10 Text, 11 KeyWord3, 12 KeyWord1, 13 Text, 14 Text");
 }
 
 TEST_F(MarkupTest, ValueBrokenInAScriptTagLosesTheBodyForTheLinesBelow) {
-    EXPECT_EQ(States("<script language=\"java\nscript\">\n// a\n"),
-              (S{1, MS_DOUBLE_VALUE + 2, 1}));
+    EXPECT_EQ(States("<script language=\"java\nscript\">\n// a\n"), (S{1, MS_DOUBLE_VALUE + 2, 1}));
     // Drawn, the tag's own line still turns into a body behind its '>'...
     EXPECT_EQ(Runs(1), "0 String, 7 KeyWord3, 8 Text");
     // ...but the walk went back to a plain tag, so the next line is text.
     EXPECT_EQ(Runs(2), "0 Text");
     // A value of a declaration returns to the declaration.
-    EXPECT_EQ(States("<!x 'a\nb' -- c\nd --> e\n"),
-              (S{1, MS_SINGLE_VALUE + 1, MS_DECL_COMMENT}));
+    EXPECT_EQ(States("<!x 'a\nb' -- c\nd --> e\n"), (S{1, MS_SINGLE_VALUE + 1, MS_DECL_COMMENT}));
 }
 
 TEST_F(MarkupTest, ServerSections) {
