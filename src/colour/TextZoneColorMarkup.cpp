@@ -44,7 +44,7 @@ std::uint32_t CTextZoneColor::OpenMarkup(const char* pLt) {
 void CTextZoneColor::DefineMarkupColors(const std::string& text, std::uint32_t nStart) {
     const char* const t = text.c_str();
     const int n = static_cast<int>(std::strlen(t));
-    const COLORREF crTag = m_crSyntax[SC_KEYWORD1 + 2 - 1];
+    const COLORREF crTag = m_crSyntax[SC_KEYWORD1 + 2 - 1];  // KeyWord3: tags and delimiters
     std::uint32_t nState = MarkupPart(nStart);
     // Only the state the line starts in can be inside embedded script.
     std::uint32_t nEmbedded = EmbeddedPart(nStart);
