@@ -8,9 +8,10 @@
 // settings, the run pool), TextZoneColorEdit.cpp (the wrapped engine
 // operations), TextZoneColorLanguages.cpp, TextZoneColorStates.cpp (start
 // states and delimiter search), TextZoneColorRuns.cpp (DefineColors),
-// TextZoneColorJcl.cpp, TextZoneColorDraw.cpp (DrawTextLine),
-// TextZoneColorKeys.cpp (HandleKeyDown), TextZoneColorLater.cpp (completion
-// and the embedded languages, not in this zone yet).
+// TextZoneColorJcl.cpp, TextZoneColorMarkup*.cpp and TextZoneColorEmbedded.cpp
+// (markup and the script embedded in it), TextZoneColorDraw.cpp
+// (DrawTextLine), TextZoneColorKeys.cpp (HandleKeyDown),
+// TextZoneColorLater.cpp (completion, not in this zone yet).
 #pragma once
 
 #include <cstdint>
@@ -149,6 +150,21 @@ protected:
     void DefineJclColors(std::string& text, const char* const* const* ppTables);
     CStringExColor* GetColorLine(int nLine);
 
+    // --- Markup (TextZoneColorMarkup.cpp, TextZoneColorMarkupStates.cpp,
+    // TextZoneColorEmbedded.cpp) ---
+    // The runs of a markup line that starts in nState (MarkupStates.h).
+    void DefineMarkupColors(const std::string& text, std::uint32_t nState);
+    // The state at the end of a markup line that starts in nState.
+    std::uint32_t AdvanceMarkupState(const char* pText, std::uint32_t nState);
+    // The state the '<' at pLt opens, 0 for none; a "<%@" directive read on
+    // the way sets m_bServerScriptJava.
+    std::uint32_t OpenMarkup(const char* pLt);
+    void MarkupEntityPass(const std::string& text, int nFrom, int nTo);
+    void MarkupTagKeywordPass(const std::string& text, int nFrom, int nTo);
+    // BuildEmbeddedColor on the bytes [nFrom, nTo) of text.
+    void ColorEmbeddedPiece(const std::string& text, int nFrom, int nTo, std::uint32_t nType,
+                            bool bJava);
+
     // --- Drawing and the edit wrappers (TextZoneColorDraw.cpp,
     // TextZoneColorEdit.cpp, TextZoneColorKeys.cpp) ---
     void DrawMarginMarks(CDC* pDC, DWORD marks, int y, int h);
@@ -213,5 +229,8 @@ public:
 private:
     CKeywordIndex m_keywordIndex;  // of the tables the last line was coloured with
     std::vector<KeywordToken> m_keywordTokens;
-    COLORREF m_crRunText = 0;  // the zone's text colour while a line is coloured
+    CKeywordIndex m_markupIndex;       // element and attribute names
+    CKeywordIndex m_embeddedIndex[2];  // the VB-like and the Java-like script words
+    std::string m_embeddedPiece;       // scratch for the pieces of embedded script
+    COLORREF m_crRunText = 0;          // the zone's text colour while a line is coloured
 };

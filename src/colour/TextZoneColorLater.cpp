@@ -1,14 +1,8 @@
 // Operations of the coloured zone that belong to word completion, parameter
-// tooltips, the embedded languages and the comment-free line. They hold
-// their places in the class so that derived zones and hosts link against the
-// final interface; until they are built they change nothing.
+// tooltips and the comment-free line. They hold their places in the class so
+// that derived zones and hosts link against the final interface; until they
+// are built they change nothing.
 #include "colour/TextZoneColor.h"
-
-unsigned int CTextZoneColor::GetEndEmbeddedType(char*, unsigned int nType, int) {
-    return nType;
-}
-
-void CTextZoneColor::BuildEmbeddedColor(char*, unsigned int, int, int) {}
 
 void CTextZoneColor::SetWordCompletion(unsigned int nMode) {
     m_nWordCompletion = nMode;

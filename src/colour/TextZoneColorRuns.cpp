@@ -42,7 +42,7 @@ void CTextZoneColor::DefineColors(int nLine, CStringEx* pText) {
     const std::uint32_t nState = StartWithWhat(nLine);
 
     if (m_bHtml) {
-        // Markup languages have a colouring of their own, not in this zone yet.
+        DefineMarkupColors(text, nState);
     } else {
         const char** tables[CKeywordIndex::kMaxTables];
         for (auto& table : tables)

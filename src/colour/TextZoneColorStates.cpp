@@ -202,10 +202,8 @@ int CTextZoneColor::FindOpener(const char* pText, int nFrom, int nLineComment, i
 }
 
 std::uint32_t CTextZoneColor::AdvanceState(CStringExColor* pLine, std::uint32_t nState) {
-    // Markup states come with the embedded languages; until then a markup
-    // line starts as plain text.
-    if (m_bHtml) return LS_PLAIN;
     const char* t = pLine->c_str();
+    if (m_bHtml) return AdvanceMarkupState(t, nState);
     int pos = 0;
     int nLength = 0;
     int nKind = 0;

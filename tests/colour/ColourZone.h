@@ -13,10 +13,12 @@
 
 class CTestColorZone : public CTextZoneColor {
 public:
+    using CTextZoneColor::BuildEmbeddedColor;
     using CTextZoneColor::ContinuationPass;
     using CTextZoneColor::CreateLine;
     using CTextZoneColor::DefineColors;
     using CTextZoneColor::FindOpener;
+    using CTextZoneColor::GetEndEmbeddedType;
     using CTextZoneColor::ResetLastLines;
     using CTextZoneColor::StartWithWhat;
     using CTextZoneColor::TokenPass;

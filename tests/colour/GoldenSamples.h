@@ -25,4 +25,8 @@ inline const GoldenSample kGoldenSamples[] = {
     {"delphi", [](CTextZoneColor& z) { z.SetClientLanguageSyntaxColor(90); }},
     {"cobol", [](CTextZoneColor& z) { z.SetClientLanguageSyntaxColor(1010); }},
     {"jcl", [](CTextZoneColor& z) { z.SetClientLanguageSyntaxColor(1020); }},
+    {"html", [](CTextZoneColor& z) { z.SetClientLanguageSyntaxColor(310); }},
+    {"jsp", [](CTextZoneColor& z) { z.SetClientLanguageSyntaxColor(610); }},
+    {"asp", [](CTextZoneColor& z) { z.SetClientLanguageSyntaxColor(631); }},
+    {"xml", [](CTextZoneColor& z) { z.SetClientLanguageSyntaxColor(1090); }},
 };

@@ -82,6 +82,8 @@ const Config kConfigs[] = {
     {"udb", [](CTextZoneColor& z) { z.SetSQLSyntaxColor(205); }},
     {"cpp", [](CTextZoneColor& z) { z.SetClientLanguageSyntaxColor(710); }},
     {"vbnet", [](CTextZoneColor& z) { z.SetClientLanguageSyntaxColor(930); }},
+    {"vb", [](CTextZoneColor& z) { z.SetClientLanguageSyntaxColor(70); }},
+    {"markup", [](CTextZoneColor& z) { z.SetClientLanguageSyntaxColor(310); }},
     {"objc", [](CTextZoneColor& z) { z.SetClientLanguageSyntaxColor(1250); }},
     {"cobol", [](CTextZoneColor& z) { z.SetClientLanguageSyntaxColor(1010); }},
     {"java", [](CTextZoneColor& z) { z.SetClientLanguageSyntaxColor(210); }},
@@ -101,6 +103,13 @@ protected:
         m_bounds = !bWords                  ? KeywordBounds::CFamily
                    : m_zone.m_bCobolComment ? KeywordBounds::SqlNoDash
                                             : KeywordBounds::Sql;
+        if (m_zone.m_bHtml) {
+            // Names in tags: elements, then attributes, in any case.
+            m_tables[0] = szKeyWordHTM_El;
+            m_tables[1] = szKeyWordHTM_At;
+            m_bFold = true;
+            m_bounds = KeywordBounds::Sql;
+        }
         m_index.Build(m_tables, 6);
     }
 
@@ -148,7 +157,7 @@ TEST_F(KeywordOracleTest, GoldenSamples) {
 TEST_F(KeywordOracleTest, RandomLines) {
     std::mt19937 random(20261124);
     const char* const pieces[] = {" ", "  ", "\t",   "-",  "#",  "@", "_", ".", "(", ")", ",",
-                                  "x", "7",  "\xE9", "\n", "/*", "&", "'", "=", "$", "~"};
+                                  "x", "7",  "\xE9", "\n", "/*", "&", "'", "=", "$", "~", "<"};
     for (const Config& config : kConfigs) {
         Use(config.setup);
         std::vector<const char*> words;

@@ -139,8 +139,6 @@ TEST_F(LineColourTest, NothingWithoutColourAndTheTextStaysAsItWas) {
 
     m_zone.EnableSyntaxColor(0, 0, 0, 0, 0, 0, 4);
     EXPECT_EQ(Runs(0), "");
-    m_zone.SetClientLanguageSyntaxColor(1090);  // markup: coloured elsewhere
-    EXPECT_EQ(Runs(0), "");
 }
 
 }  // namespace
