@@ -90,7 +90,7 @@ void CTextZoneColor::HandleChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
     // -1: not looked at; else whether the line ended in " _" before.
     int nHadContinuation = -1;
 
-    if (nChar >= 32 && !m_bReadOnly) {
+    if (nChar >= 32 && nChar <= 255 && !m_bReadOnly) {
         if (IsBoxCaret()) {
             // The byte lands on every line of the tall caret.
             InvalidateFrom(m_nSelStartLine, 0);
