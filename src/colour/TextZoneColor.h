@@ -68,6 +68,9 @@ public:
     void HandleChar(UINT nChar, UINT nRepCnt, UINT nFlags) override;
     void HandleKillFocus(CWnd* pNewWnd) override;
     LONG HandleUserMessage(std::uint64_t wParam, std::int64_t lParam) override;
+    // Undo gives box edits their old lines back in place, past the wrapped
+    // edits: the states from the first such line on are dropped here.
+    void PerformUndoing(CUndoOperation* pOperation) override;
 
 protected:
     virtual void ResetLastLines(int nLine);

@@ -4,6 +4,7 @@
 // below its own line, which the engine repaints anyway; only a byte that
 // can open or close a comment, a string or a continued line costs a repaint
 // down to the end.
+#include <algorithm>
 #include <cstring>
 
 #include "colour/TextZoneColor.h"
@@ -82,6 +83,30 @@ void CTextZoneColor::HandleKillFocus(CWnd* pNewWnd) {
 
 LONG CTextZoneColor::HandleUserMessage(std::uint64_t wParam, std::int64_t lParam) {
     return CTextZone::HandleUserMessage(wParam, lParam);
+}
+
+void CTextZoneColor::PerformUndoing(CUndoOperation* pOperation) {
+    // Kinds 6 and 7 restore lines in place; the others replay through the
+    // wrapped edits, which invalidate for themselves.
+    int nFirst = TZ_TO_END;
+    if (pOperation && m_bSyntaxColor) {
+        // With paragraphs in stream mode the units hold offsets, not lines.
+        const bool bOffsets = (m_dwStyle & ZS_PARAGRAPH) && m_nSelectionMode == 1;
+        auto look = [&](const CUndoUnit* pUnit) {
+            if (pUnit && (pUnit->m_wType == 6 || pUnit->m_wType == 7))
+                nFirst = std::min({nFirst, m_nSelStartLine, bOffsets ? 0 : pUnit->m_nFirstLine});
+        };
+        look(pOperation->m_pFirst.get());
+        look(pOperation->m_pSecond.get());
+        for (const auto& pUnit : pOperation->m_group)
+            look(pUnit.get());
+    }
+    CTextZone::PerformUndoing(pOperation);
+    if (nFirst != TZ_TO_END) {
+        nFirst = std::min(nFirst, m_nSelStartLine);
+        ResetLastLines(nFirst);
+        RedrawLines(nFirst, TZ_TO_END, 0);
+    }
 }
 
 void CTextZoneColor::HandleChar(UINT nChar, UINT nRepCnt, UINT nFlags) {

@@ -178,3 +178,24 @@ TEST_F(InvalidationTest, CtrlSpaceNeverTypesABlankAndFullZonesRefuseTabAndEnter)
     EXPECT_EQ(Line3(), "ab ");
     EXPECT_EQ(m_zone.GetLine(4)->c_str(), std::string("int v4;\r"));
 }
+
+TEST_F(InvalidationTest, UndoingABoxEditDropsTheStatesOfTheLinesItRestores) {
+    // Box edits are undone by giving lines their old bytes back in place;
+    // the comment typed on a tall caret must go from the lines below too.
+    Load("int a;", 0);
+    m_zone.SetSelectionMode(2);
+    m_zone.SetSelection(3, 4, 0, 0, 2, 0);
+    m_zone.HandleChar('/', 1, 0);
+    m_zone.HandleChar('*', 1, 0);
+    Paint();
+    ASSERT_EQ(Row(10), "int v10;:Comment");
+    m_zone.Undo();
+    m_zone.Undo();
+    EXPECT_EQ(Line3(), "int a;");
+    Paint();
+    EXPECT_EQ(Row(10), "int :KeyWord1 v10;:Text");
+    m_zone.Redo();
+    m_zone.Redo();
+    Paint();
+    EXPECT_EQ(Row(10), "int v10;:Comment");
+}
