@@ -126,6 +126,16 @@ protected:
     void AddColorDef(int nPos, COLORREF crColor);
     // Text colour from nPos on, unless a run already starts there.
     void CloseColorDef(int nPos);
+    // A token coloured from nStart, closed at nEnd.
+    struct TokenRun {
+        int nStart;
+        int nEnd;
+        COLORREF crColor;
+    };
+    // The same as AddColorDef and CloseColorDef for each token, for tokens
+    // that lie apart from each other and from what has runs already, in
+    // one merge: a long line has thousands of them.
+    void AddTokenRuns(std::vector<TokenRun>& tokens);
 
     // --- Delimiter search (TextZoneColorStates.cpp) ---
     // The closing delimiter of the construct of state *pState, searched from
@@ -171,6 +181,11 @@ protected:
     // --- Drawing and the edit wrappers (TextZoneColorDraw.cpp,
     // TextZoneColorEdit.cpp, TextZoneColorKeys.cpp) ---
     void DrawMarginMarks(CDC* pDC, DWORD marks, int y, int h);
+    // Where the drawing walk of a line scrolled to the left can start: the
+    // last place at which the walk cuts the text whose text ends left of
+    // the rectangle, with its offset in *pdx; 0 for the line's start.
+    int FirstVisibleCut(CDC* pDC, const char* p, int n, int x, int A, int B, bool bStartSelected,
+                        int* pdx);
     // The states from nLine on are no longer trusted, and everything from
     // the first selected line down is repainted (at once with bUpdate).
     void InvalidateFrom(int nLine, int bUpdate);
@@ -232,6 +247,8 @@ public:
 private:
     CKeywordIndex m_keywordIndex;  // of the tables the last line was coloured with
     std::vector<KeywordToken> m_keywordTokens;
+    std::vector<TokenRun> m_tokenRuns;
+    std::vector<std::unique_ptr<CColorDef>> m_mergedDefs;
     CKeywordIndex m_markupIndex;       // element and attribute names
     CKeywordIndex m_embeddedIndex[2];  // the VB-like and the Java-like script words
     std::string m_embeddedPiece;       // scratch for the pieces of embedded script

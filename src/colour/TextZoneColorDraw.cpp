@@ -3,6 +3,7 @@
 // text going out run by run, the selection laid over the runs.
 #include <algorithm>
 #include <cstdlib>
+#include <vector>
 
 #include "colour/TextZoneColor.h"
 #include "platform/Brush.h"
@@ -48,6 +49,46 @@ void CTextZoneColor::DrawMarginMarks(CDC* pDC, DWORD marks, int y, int h) {
         pDC->RoundRect(mx, top, mx + M, top + h - h / 4, 4, 4);
         pDC->RestoreDC(-1);
     }
+}
+
+int CTextZoneColor::FirstVisibleCut(CDC* pDC, const char* p, int n, int x, int A, int B,
+                                    bool bStartSelected, int* pdx) {
+    // The places where the walk draws what it holds: the selection bounds,
+    // and the runs that start outside the selection.
+    const bool bSwaps = A != B;
+    std::vector<int> cuts;
+    for (const auto& def : m_colorDefs) {
+        const int c = def->nPos;
+        if (c <= 0 || c >= n) continue;
+        bool bSelected = bStartSelected;
+        if (bSwaps) bSelected ^= (A >= 0 && A < c) != (B >= 0 && B < c);
+        if (!bSelected) cuts.push_back(c);
+    }
+    if (bSwaps) {
+        if (A > 0 && A < n) cuts.push_back(A);
+        if (B > 0 && B < n) cuts.push_back(B);
+    }
+    std::sort(cuts.begin(), cuts.end());
+    cuts.erase(std::unique(cuts.begin(), cuts.end()), cuts.end());
+    // The last cut whose text ends left of the rectangle, by bisection:
+    // widths grow with the index.
+    const int M = GetMarginWidth();
+    int lo = 0;
+    int hi = static_cast<int>(cuts.size());
+    int best = 0;
+    *pdx = 0;
+    while (lo < hi) {
+        const int mid = (lo + hi) / 2;
+        const int w = GetTextWidth(pDC, p, cuts[static_cast<size_t>(mid)]) - M;
+        if (x + w <= m_rcText.left) {
+            best = cuts[static_cast<size_t>(mid)];
+            *pdx = w;
+            lo = mid + 1;
+        } else {
+            hi = mid;
+        }
+    }
+    return best;
 }
 
 void CTextZoneColor::DrawTextLine(CDC* pDC, int nLine) {
@@ -146,37 +187,55 @@ void CTextZoneColor::DrawTextLine(CDC* pDC, int nLine) {
     const int n = pText ? pText->GetLength() - pText->IsEnded() : 0;
 
     const auto& runs = m_colorDefs;
-    size_t r = 0;  // the next run to take effect
+    // The first run behind position i.
+    auto runAfter = [&](int i) {
+        return static_cast<size_t>(
+            std::upper_bound(runs.begin(), runs.end(), i,
+                             [](int pos, const auto& def) { return pos < def->nPos; }) -
+            runs.begin());
+    };
+    const bool bSwaps = A != B;
+    int dx = 0;
+    // Each cut is measured from the line's start, so a line of many runs
+    // costs runs times length: only the cuts that can show are walked. A
+    // line scrolled to the left starts at the last cut that ends left of
+    // the rectangle; the walk stops once it has passed the right edge.
+    const int start =
+        GetHScrollOffset() > 0 ? FirstVisibleCut(pDC, p, n, x, A, B, bStartSelected, &dx) : 0;
+
     bool bSelected = bStartSelected;
+    if (bSwaps) bSelected ^= (A >= 0 && A < start) != (B >= 0 && B < start);
     pDC->SetTextColor(bSelected ? m_crSelText : crText);
     pDC->SetBkColor(bSelected ? m_crSelBack : crBack);
-    if (!bSelected && r < runs.size() && runs[r]->nPos == 0) pDC->SetTextColor(runs[r++]->crColor);
+    size_t r = 0;  // the next run to take effect
+    if (!bSelected) {
+        r = runAfter(start);
+        if (r > 0) pDC->SetTextColor(runs[r - 1]->crColor);
+    }
 
-    int dx = 0;
-    int from = 0;  // the first byte not drawn yet
+    int from = start;  // the first byte not drawn yet
+    bool bPastRight = false;
     auto flush = [&](int i) {
         if (i > from) {
             m_GraphicText(pDC, x + dx, y, p + from, i - from, 1, &tabStop, x);
             // Measured afresh from the line's start, so that tabs stay right
             // across colour changes.
             dx = GetTextWidth(pDC, p, i) - M;
+            bPastRight = x + dx >= m_rcText.right;
         }
         from = i;
     };
-    for (int i = 0; i <= n; ++i) {
+    for (int i = start; i <= n && !bPastRight; ++i) {
         // A bound at the very end still swaps, so that a selection that
         // stops at the end of the text does not take the line end along.
-        if ((i == A || i == B) && A != B) {
+        if ((i == A || i == B) && bSwaps) {
             flush(i);
             bSelected = !bSelected;
             pDC->SetTextColor(bSelected ? m_crSelText : crText);
             pDC->SetBkColor(bSelected ? m_crSelBack : crBack);
             if (!bSelected) {
                 // Back to plain: the colour of the run in force here.
-                r = static_cast<size_t>(
-                    std::upper_bound(runs.begin(), runs.end(), i,
-                                     [](int pos, const auto& def) { return pos < def->nPos; }) -
-                    runs.begin());
+                r = runAfter(i);
                 if (r > 0) pDC->SetTextColor(runs[r - 1]->crColor);
             }
         } else if (!bSelected && r < runs.size() && runs[r]->nPos == i && i < n) {
