@@ -152,6 +152,8 @@ BOOL CTooltipBubble::CreateBubble(POINT* pPos) {
         if (rc.top < 0) rc.top = 0;
         SetWindowPos(nullptr, rc.left, rc.top, rc.right - rc.left, rc.bottom - rc.top,
                      SWP_NOZORDER | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+        // A window that appears is painted whole.
+        InvalidateRect(nullptr, FALSE);
         SetCapture();
     }
     if (hDC) DeleteDC(hDC);
