@@ -20,6 +20,10 @@ CReportPane::CReportPane(QWidget* pParent)
     pLayout->addWidget(m_pView);
     m_pZone->EnableSyntaxColor(0, 0, 0, 0, 0, 0, 0);
     m_pZone->SetReadOnly(1);
+    // Lines with help carry their mark in a margin rather than as their
+    // background.
+    m_pZone->SetMarginWidth(12);
+    m_pZone->SetMarginMode(1);
 }
 
 CReportPane::~CReportPane() {
@@ -72,6 +76,9 @@ void CReportPane::ShowMatches(const QString& title, const std::string& text,
     }
     report += "Click a line number to go there; rest on it to see where it leads.";
     m_pZone->SetText(report.c_str());
+    // A new report is read from its top.
+    m_pZone->SetSelection(0, 0, 0, 0, 0, 0);
+    m_pZone->SetFirstVisiblePosition(0, 0);
 
     // The title stands out in a colour of its own and explains the pane.
     m_pZone->SetLineColor(0, RGB(0, 0, 160));
