@@ -1,7 +1,11 @@
 #include "textzone/StringEx.h"
 
+#include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
+
+#include "textzone/TextZone.h"
 
 namespace {
 
@@ -20,6 +24,70 @@ bool IsWrapDelimiter(char c) {
 }  // namespace
 
 CStringEx::CStringEx(const char* psz) : VESK::String(psz) {}
+
+CStringEx::CStringEx(const CStringEx& src)
+    : VESK::String(src), m_dwBookmarks(src.m_dwBookmarks), m_dwBlockFlags(src.m_dwBlockFlags) {}
+
+CStringEx& CStringEx::operator=(const CStringEx& src) {
+    const int nOld = GetLength();
+    VESK::String::operator=(src);
+    m_dwBookmarks = src.m_dwBookmarks;
+    m_dwBlockFlags = src.m_dwBlockFlags;
+    NoteLength(nOld);
+    return *this;
+}
+
+void CStringEx::NoteLength(int nOld) {
+    if (m_pOwnerZone && GetLength() != nOld) m_pOwnerZone->NoteLineLength(this);
+}
+
+// Each change runs the string's own operation and then tells the zone.
+#define TZ_NOTED(call)            \
+    const int nOld = GetLength(); \
+    VESK::String::call;           \
+    NoteLength(nOld);             \
+    return *this
+
+CStringEx& CStringEx::operator=(const char* psz) { TZ_NOTED(operator=(psz)); }
+CStringEx& CStringEx::operator+=(const char* psz) { TZ_NOTED(operator+=(psz)); }
+CStringEx& CStringEx::operator+=(char c) { TZ_NOTED(operator+=(c)); }
+CStringEx& CStringEx::operator+=(const VESK::String& s) { TZ_NOTED(operator+=(s)); }
+CStringEx& CStringEx::keepLeft(int n) { TZ_NOTED(keepLeft(n)); }
+CStringEx& CStringEx::discardLeft(int n) { TZ_NOTED(discardLeft(n)); }
+CStringEx& CStringEx::discardRight(int n) { TZ_NOTED(discardRight(n)); }
+CStringEx& CStringEx::deleteAt(int nPos, int nCount) { TZ_NOTED(deleteAt(nPos, nCount)); }
+CStringEx& CStringEx::insertAt(int nPos, char c) { TZ_NOTED(insertAt(nPos, c)); }
+CStringEx& CStringEx::insertAt(int nPos, const char* psz) { TZ_NOTED(insertAt(nPos, psz)); }
+CStringEx& CStringEx::insertAt(int nPos, const VESK::String& s) { TZ_NOTED(insertAt(nPos, s)); }
+
+#undef TZ_NOTED
+
+void CStringEx::Empty() {
+    const int nOld = GetLength();
+    VESK::String::Empty();
+    NoteLength(nOld);
+}
+
+CStringEx& CStringEx::Format(const char* pszFormat, ...) {
+    va_list args;
+    va_start(args, pszFormat);
+    va_list again;
+    va_copy(again, args);
+    const int n = std::vsnprintf(nullptr, 0, pszFormat, args);
+    va_end(args);
+    std::string text(static_cast<size_t>(n > 0 ? n : 0), '\0');
+    if (n > 0) std::vsnprintf(text.data(), text.size() + 1, pszFormat, again);
+    va_end(again);
+    // The arguments may point into this line's own bytes: they were read above.
+    assign(text.data(), static_cast<int>(text.size()));
+    return *this;
+}
+
+void CStringEx::assign(const char* p, int n) {
+    const int nOld = GetLength();
+    VESK::String::assign(p, n);
+    NoteLength(nOld);
+}
 
 int CStringEx::IsEnded() const {
     int n = GetLength();

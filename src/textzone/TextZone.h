@@ -223,6 +223,8 @@ public:
     void SetBookmarkColor(COLORREF cr, int nIndex);
     void SetLineBookmark(int nLine, int nBit, int bOn);
     const GraphicText& getGraphicText() const { return m_GraphicText; }
+    // A line of the store says that its length changed (CStringEx does).
+    void NoteLineLength(CStringEx* pLine);
 
 protected:
     bool DoOleMoveItem(POINT* pt);
@@ -248,6 +250,36 @@ protected:
     // Window x of the place behind nIndex bytes of a line, or of its
     // space-equivalent copy, padded with spaces beyond the text.
     int CaretX(CDC* pDC, int nLine, int nIndex, bool bColumns);
+
+    // --- Store slots (TextZoneStore.cpp, TextZoneLineLengths.cpp) ---
+    // Every slot of the store holds a line and, beside it, the line's raw
+    // length; each block knows its longest raw length. So the longest line
+    // of a range is found without visiting the lines.
+    void NewStoreBlock(int nBlock);
+    void FreeStoreBlock(int nBlock);
+    void PutSlot(int nBlock, int nIndex, CStringEx* pLine);
+    // memmove-like within one block or between two.
+    void MoveSlots(int nToBlock, int nToIndex, int nFromBlock, int nFromIndex, int nCount);
+    // Moves the directory entries [nFrom, nBlockCount) to nTo on.
+    void MoveDirectory(int nTo, int nFrom);
+    void ForgetLongest(int nBlock) { m_pBlockLongest[nBlock] = -1; }
+    void RememberPlace(int nBlock, int nIndex) {
+        m_nRecentBlock[m_nRecentNext] = nBlock;
+        m_nRecentIndex[m_nRecentNext] = nIndex;
+        m_nRecentNext = (m_nRecentNext + 1) & 3;
+    }
+    int LongestInBlock(int nBlock);
+    // The first line with the most bytes among nFirst..nLast (both existing,
+    // nFirst <= nLast), as the walk of GetMaxLineWidth would find it.
+    int FindLongestLine(int nFirst, int nLast);
+    bool FindSlot(const CStringEx* pLine, int* pBlock, int* pIndex);
+    void RebuildLineLengths();
+    // The number of lines a stream insertion of pszText makes.
+    static long long CountTextLines(const char* pszText);
+    // Grows the empty store at once to the capacity the insertion of
+    // nLines lines would have grown it to step by step.
+    void ReserveLines(long long nLines);
+    // --- end of store slots ---
 
     // The line limit in force: 65500 bytes, 65536 with ZS_PARAGRAPH.
     int GetLineLimit() const {
@@ -336,6 +368,16 @@ public:
     std::unique_ptr<std::unique_ptr<CStringEx*[]>[]> m_ppBlocks;
     int m_nBlockCount = 0;
     std::unique_ptr<int[]> m_pBlockSizes;
+    // Raw lengths beside the line pointers, and per block the longest one
+    // (-1: to be found again). Stale: a line changed where the zone could not
+    // place it, so all lengths are read again before the next use.
+    std::unique_ptr<std::unique_ptr<int[]>[]> m_ppLengths;
+    std::unique_ptr<int[]> m_pBlockLongest;
+    bool m_bLengthsStale = false;
+    // Places of the last lines looked up, where a changing line is sought first.
+    int m_nRecentBlock[4] = {-1, -1, -1, -1};
+    int m_nRecentIndex[4] = {0, 0, 0, 0};
+    int m_nRecentNext = 0;
     int m_nCacheLine = -1;
     int m_nCacheBlock = 0;
     int m_nCacheIndex = 0;

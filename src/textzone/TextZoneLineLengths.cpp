@@ -1,0 +1,191 @@
+// The lengths of the lines beside their pointers in the store. The
+// horizontal range needs the first line with the most bytes of a range
+// (GetMaxLineWidth); reading that from the lines themselves would visit
+// every line of the text on every edit. Here it costs a pass over the
+// blocks' longest lengths and over at most three blocks of integers.
+#include <algorithm>
+#include <cstring>
+
+#include "textzone/TextZone.h"
+
+void CTextZone::NewStoreBlock(int nBlock) {
+    // Slots are written before they are read: no zero-filling.
+    const auto g = static_cast<size_t>(m_nGranularity);
+    m_ppBlocks[nBlock] = std::make_unique_for_overwrite<CStringEx*[]>(g);
+    m_ppLengths[nBlock] = std::make_unique_for_overwrite<int[]>(g);
+    m_pBlockLongest[nBlock] = -1;
+}
+
+void CTextZone::FreeStoreBlock(int nBlock) {
+    m_ppBlocks[nBlock].reset();
+    m_ppLengths[nBlock].reset();
+    m_pBlockLongest[nBlock] = -1;
+}
+
+void CTextZone::PutSlot(int nBlock, int nIndex, CStringEx* pLine) {
+    pLine->m_pOwnerZone = this;
+    m_ppBlocks[nBlock][nIndex] = pLine;
+    m_ppLengths[nBlock][nIndex] = pLine->GetLength();
+    ForgetLongest(nBlock);
+    RememberPlace(nBlock, nIndex);
+}
+
+void CTextZone::MoveSlots(int nToBlock, int nToIndex, int nFromBlock, int nFromIndex,
+                          int nCount) {
+    if (nCount <= 0) return;
+    const auto n = static_cast<size_t>(nCount);
+    std::memmove(m_ppBlocks[nToBlock].get() + nToIndex, m_ppBlocks[nFromBlock].get() + nFromIndex,
+                 sizeof(CStringEx*) * n);
+    std::memmove(m_ppLengths[nToBlock].get() + nToIndex,
+                 m_ppLengths[nFromBlock].get() + nFromIndex, sizeof(int) * n);
+    ForgetLongest(nToBlock);
+    ForgetLongest(nFromBlock);
+}
+
+void CTextZone::MoveDirectory(int nTo, int nFrom) {
+    auto move = [&](auto* p) {
+        if (nTo < nFrom)
+            std::move(p + nFrom, p + m_nBlockCount, p + nTo);
+        else
+            std::move_backward(p + nFrom, p + m_nBlockCount, p + m_nBlockCount + (nTo - nFrom));
+    };
+    move(m_ppBlocks.get());
+    move(m_ppLengths.get());
+    move(m_pBlockSizes.get());
+    move(m_pBlockLongest.get());
+}
+
+int CTextZone::LongestInBlock(int nBlock) {
+    int& longest = m_pBlockLongest[nBlock];
+    if (longest < 0) {
+        const int* lengths = m_ppLengths[nBlock].get();
+        longest = m_pBlockSizes[nBlock] > 0
+                      ? *std::max_element(lengths, lengths + m_pBlockSizes[nBlock])
+                      : 0;
+    }
+    return longest;
+}
+
+bool CTextZone::FindSlot(const CStringEx* pLine, int* pBlock, int* pIndex) {
+    auto holds = [&](int b, int i) {
+        return b >= 0 && b < m_nBlockCount && i >= 0 && i < m_pBlockSizes[b] &&
+               m_ppBlocks[b][i] == pLine;
+    };
+    auto found = [&](int b, int i) {
+        *pBlock = b;
+        *pIndex = i;
+        return true;
+    };
+    if (m_nCacheLine >= 0 && holds(m_nCacheBlock, m_nCacheIndex))
+        return found(m_nCacheBlock, m_nCacheIndex);
+    for (int k = 0; k < 4; ++k)
+        if (holds(m_nRecentBlock[k], m_nRecentIndex[k]))
+            return found(m_nRecentBlock[k], m_nRecentIndex[k]);
+    // Shifted since it was looked up: it is still in or next to a block the
+    // engine touched lately.
+    for (int k = 0; k < 4; ++k) {
+        for (int b = m_nRecentBlock[k] - 1; b <= m_nRecentBlock[k] + 1; ++b) {
+            if (b < 0 || b >= m_nBlockCount) continue;
+            CStringEx** slots = m_ppBlocks[b].get();
+            CStringEx** end = slots + m_pBlockSizes[b];
+            CStringEx** hit = std::find(slots, end, pLine);
+            if (hit != end) return found(b, static_cast<int>(hit - slots));
+        }
+    }
+    return false;
+}
+
+void CTextZone::NoteLineLength(CStringEx* pLine) {
+    if (m_bLengthsStale) return;
+    int b = 0;
+    int i = 0;
+    if (!FindSlot(pLine, &b, &i)) {
+        // Out of sight: read every length again when it is next wanted.
+        m_bLengthsStale = true;
+        return;
+    }
+    const int length = pLine->GetLength();
+    int& slot = m_ppLengths[b][i];
+    int& longest = m_pBlockLongest[b];
+    if (longest >= 0) {
+        if (length >= longest)
+            longest = length;
+        else if (slot == longest)
+            longest = -1;
+    }
+    slot = length;
+}
+
+void CTextZone::RebuildLineLengths() {
+    for (int b = 0; b < m_nBlockCount; ++b) {
+        for (int i = 0; i < m_pBlockSizes[b]; ++i)
+            m_ppLengths[b][i] = m_ppBlocks[b][i]->GetLength();
+        ForgetLongest(b);
+    }
+    m_bLengthsStale = false;
+}
+
+int CTextZone::FindLongestLine(int nFirst, int nLast) {
+    if (m_bLengthsStale) RebuildLineLengths();
+    int b = 0;
+    int from = 0;
+    if (!GetLineIndexes(nFirst, &b, &from)) return -1;
+    int base = nFirst - from;
+    int best = -1;
+    int bestLine = -1;
+    int bestBlock = -1;  // a whole block holds the best, at a place not yet known
+    int bestBase = 0;
+    for (; b < m_nBlockCount && base <= nLast; ++b, from = 0) {
+        const int size = m_pBlockSizes[b];
+        const int to = std::min(size - 1, nLast - base);  // the last index taken
+        if (from == 0 && to == size - 1) {
+            const int longest = LongestInBlock(b);
+            if (longest > best) {
+                best = longest;
+                bestBlock = b;
+                bestBase = base;
+                bestLine = -1;
+            }
+        } else {
+            const int* lengths = m_ppLengths[b].get();
+            for (int i = from; i <= to; ++i) {
+                if (lengths[i] > best) {
+                    best = lengths[i];
+                    bestLine = base + i;
+                }
+            }
+        }
+        base += size;
+    }
+    if (bestLine < 0 && bestBlock >= 0) {
+        const int* lengths = m_ppLengths[bestBlock].get();
+        bestLine = bestBase + static_cast<int>(std::find(lengths, lengths + m_pBlockSizes[bestBlock],
+                                                         best) -
+                                               lengths);
+    }
+    return bestLine;
+}
+
+long long CTextZone::CountTextLines(const char* pszText) {
+    const size_t length = std::strlen(pszText);
+    const char* end = pszText + length;
+    long long ends = 0;
+    for (const char* p = pszText; (p = static_cast<const char*>(
+                                       std::memchr(p, '\n', static_cast<size_t>(end - p))));
+         ++p)
+        ++ends;
+    // A CR is a line end of its own unless an LF follows it.
+    for (const char* p = pszText; (p = static_cast<const char*>(
+                                       std::memchr(p, '\r', static_cast<size_t>(end - p))));
+         ++p)
+        if (p[1] != '\n') ++ends;
+    const bool endsWithLineEnd = length > 0 && (end[-1] == '\r' || end[-1] == '\n');
+    return ends + (length > 0 && !endsWithLineEnd ? 1 : 0);
+}
+
+void CTextZone::ReserveLines(long long nLines) {
+    // Filled in order, a store of capacity g grows only when it holds g * g
+    // lines; growing the empty store first leaves the same blocks at the end.
+    while (static_cast<long long>(m_nGranularity) * m_nGranularity < nLines)
+        ExtendGranularity();
+}
