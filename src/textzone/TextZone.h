@@ -279,6 +279,16 @@ protected:
     // Grows the empty store at once to the capacity the insertion of
     // nLines lines would have grown it to step by step.
     void ReserveLines(long long nLines);
+    // Calls f(line) for the lines in order, straight from the blocks, while
+    // it returns true. The first lookup is GetLine(0)'s own, so a stale cache
+    // that hides line 0 hides the text as a walk by GetLine would.
+    template <class F>
+    void ForEachStoredLine(F f) {
+        if (!GetLine(0)) return;
+        for (int b = 0; b < m_nBlockCount; ++b)
+            for (int i = 0; i < m_pBlockSizes[b]; ++i)
+                if (!f(m_ppBlocks[b][i])) return;
+    }
     // --- end of store slots ---
 
     // The line limit in force: 65500 bytes, 65536 with ZS_PARAGRAPH.

@@ -42,11 +42,6 @@ public:
     int Forward(const char* p, int nLength, int nFrom) const {
         const int last = nLength - m_n;
         if (nFrom > last) return -1;
-        if (m_bMatchCase) {
-            const void* hit = memmem(p + nFrom, static_cast<size_t>(nLength - nFrom), m_p,
-                                     static_cast<size_t>(m_n));
-            return hit ? static_cast<int>(static_cast<const char*>(hit) - p) : -1;
-        }
         for (int i = nFrom; i <= last;) {
             const int c = NextFirst(p, i, last);
             if (c < 0) return -1;
