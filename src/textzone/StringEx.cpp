@@ -2,6 +2,7 @@
 
 #include <cstdarg>
 #include <cstdio>
+#include <cstddef>
 #include <cstdlib>
 #include <string>
 
@@ -35,6 +36,18 @@ CStringEx& CStringEx::operator=(const CStringEx& src) {
     m_dwBlockFlags = src.m_dwBlockFlags;
     NoteLength(nOld);
     return *this;
+}
+
+void CLineFlags::NoteHidden() {
+    // The flags are a member of a line: the line lies at a fixed distance
+    // before them, measured once on a line of our own.
+    static const std::ptrdiff_t offset = [] {
+        CStringEx probe;
+        return reinterpret_cast<const char*>(&probe.m_dwBlockFlags) -
+               reinterpret_cast<const char*>(&probe);
+    }();
+    auto* pLine = reinterpret_cast<CStringEx*>(reinterpret_cast<char*>(this) - offset);
+    if (pLine->m_pOwnerZone) pLine->m_pOwnerZone->NoteLineFlags(pLine);
 }
 
 void CStringEx::NoteLength(int nOld) {

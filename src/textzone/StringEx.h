@@ -6,6 +6,7 @@
 
 #include "host/VeskString.h"
 #include "platform/Types.h"
+#include "textzone/LineFlags.h"
 
 class CTextZone;
 
@@ -52,12 +53,13 @@ public:
     virtual void SetSpecificInfo(char* pszInfo);
 
     DWORD m_dwBookmarks = 0;   // one bit per bookmark number
-    DWORD m_dwBlockFlags = 0;  // 1 opens an open block, 2 opens a closed one, 4 hidden
+    CLineFlags m_dwBlockFlags;  // 1 opens an open block, 2 opens a closed one, 4 hidden
     // The zone whose store holds this line, set by the store; null for copies.
     // It fits the allocator's rounding of the object, so it costs no memory.
     CTextZone* m_pOwnerZone = nullptr;
 
 private:
+    friend class CLineFlags;
     // Tells the owning zone if the length is no longer nOld.
     void NoteLength(int nOld);
 

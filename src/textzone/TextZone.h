@@ -225,6 +225,9 @@ public:
     const GraphicText& getGraphicText() const { return m_GraphicText; }
     // A line of the store says that its length changed (CStringEx does).
     void NoteLineLength(CStringEx* pLine);
+    // Its hidden flag (4 of m_dwBlockFlags) may have changed: every place
+    // that sets or clears the flag on a stored line says so.
+    void NoteLineFlags(CStringEx* pLine);
 
 protected:
     bool DoOleMoveItem(POINT* pt);
@@ -262,7 +265,22 @@ protected:
     void MoveSlots(int nToBlock, int nToIndex, int nFromBlock, int nFromIndex, int nCount);
     // Moves the directory entries [nFrom, nBlockCount) to nTo on.
     void MoveDirectory(int nTo, int nFrom);
-    void ForgetLongest(int nBlock) { m_pBlockLongest[nBlock] = -1; }
+    void ForgetLongest(int nBlock) {
+        m_pBlockLongest[nBlock] = -1;
+        m_pBlockHidden[nBlock] = -1;
+    }
+    // A slot holds the raw length, and kSlotHidden for a hidden line.
+    static constexpr int kSlotHidden = 1 << 30;
+    static int SlotLength(int nSlot) { return nSlot & (kSlotHidden - 1); }
+    static int SlotOf(const CStringEx* pLine) {
+        return pLine->GetLength() | ((pLine->m_dwBlockFlags & 4) ? kSlotHidden : 0);
+    }
+    int HiddenInBlock(int nBlock);
+    // The hidden lines among the lines [0, nLines), nLines at most the count.
+    long long HiddenBefore(int nLines);
+    // The line whose place holds the height y (>= 0) under ZS_VARHEIGHT, as
+    // GetLineFromPoint's walk finds it.
+    int LineAtHeight(int y);
     void RememberPlace(int nBlock, int nIndex) {
         m_nRecentBlock[m_nRecentNext] = nBlock;
         m_nRecentIndex[m_nRecentNext] = nIndex;
@@ -383,6 +401,7 @@ public:
     // place it, so all lengths are read again before the next use.
     std::unique_ptr<std::unique_ptr<int[]>[]> m_ppLengths;
     std::unique_ptr<int[]> m_pBlockLongest;
+    std::unique_ptr<int[]> m_pBlockHidden;  // hidden lines per block, -1: to be counted
     bool m_bLengthsStale = false;
     // Places of the last lines looked up, where a changing line is sought first.
     int m_nRecentBlock[4] = {-1, -1, -1, -1};

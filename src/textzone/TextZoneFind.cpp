@@ -174,7 +174,7 @@ int CTextZone::FindTextFromCurrentPos(const char* pszText, int bForward, int bMa
     if (GetLineIndexes(nLine, &b, &i)) {
         for (;;) {
             pLine = m_ppBlocks[b][i];
-            nLength = m_ppLengths[b][i];
+            nLength = SlotLength(m_ppLengths[b][i]);
             if (bForward) {
                 const int from = L == nLine ? nChar : 0;
                 if (nLength - from >= n) nFound = needle.Forward(pLine->c_str(), nLength, from);

@@ -13,19 +13,19 @@ void CTextZone::NewStoreBlock(int nBlock) {
     const auto g = static_cast<size_t>(m_nGranularity);
     m_ppBlocks[nBlock] = std::make_unique_for_overwrite<CStringEx*[]>(g);
     m_ppLengths[nBlock] = std::make_unique_for_overwrite<int[]>(g);
-    m_pBlockLongest[nBlock] = -1;
+    ForgetLongest(nBlock);
 }
 
 void CTextZone::FreeStoreBlock(int nBlock) {
     m_ppBlocks[nBlock].reset();
     m_ppLengths[nBlock].reset();
-    m_pBlockLongest[nBlock] = -1;
+    ForgetLongest(nBlock);
 }
 
 void CTextZone::PutSlot(int nBlock, int nIndex, CStringEx* pLine) {
     pLine->m_pOwnerZone = this;
     m_ppBlocks[nBlock][nIndex] = pLine;
-    m_ppLengths[nBlock][nIndex] = pLine->GetLength();
+    m_ppLengths[nBlock][nIndex] = SlotOf(pLine);
     ForgetLongest(nBlock);
     RememberPlace(nBlock, nIndex);
 }
@@ -53,17 +53,29 @@ void CTextZone::MoveDirectory(int nTo, int nFrom) {
     move(m_ppLengths.get());
     move(m_pBlockSizes.get());
     move(m_pBlockLongest.get());
+    move(m_pBlockHidden.get());
 }
 
 int CTextZone::LongestInBlock(int nBlock) {
     int& longest = m_pBlockLongest[nBlock];
     if (longest < 0) {
-        const int* lengths = m_ppLengths[nBlock].get();
-        longest = m_pBlockSizes[nBlock] > 0
-                      ? *std::max_element(lengths, lengths + m_pBlockSizes[nBlock])
-                      : 0;
+        const int* slots = m_ppLengths[nBlock].get();
+        longest = 0;
+        for (int i = 0; i < m_pBlockSizes[nBlock]; ++i)
+            longest = std::max(longest, SlotLength(slots[i]));
     }
     return longest;
+}
+
+int CTextZone::HiddenInBlock(int nBlock) {
+    int& hidden = m_pBlockHidden[nBlock];
+    if (hidden < 0) {
+        const int* slots = m_ppLengths[nBlock].get();
+        hidden = 0;
+        for (int i = 0; i < m_pBlockSizes[nBlock]; ++i)
+            hidden += (slots[i] & kSlotHidden) != 0;
+    }
+    return hidden;
 }
 
 bool CTextZone::FindSlot(const CStringEx* pLine, int* pBlock, int* pIndex) {
@@ -110,16 +122,72 @@ void CTextZone::NoteLineLength(CStringEx* pLine) {
     if (longest >= 0) {
         if (length >= longest)
             longest = length;
-        else if (slot == longest)
+        else if (SlotLength(slot) == longest)
             longest = -1;
     }
-    slot = length;
+    slot = length | (slot & kSlotHidden);
+}
+
+void CTextZone::NoteLineFlags(CStringEx* pLine) {
+    if (m_bLengthsStale) return;
+    int b = 0;
+    int i = 0;
+    if (!FindSlot(pLine, &b, &i)) {
+        m_bLengthsStale = true;
+        return;
+    }
+    int& slot = m_ppLengths[b][i];
+    const int bit = (pLine->m_dwBlockFlags & 4) ? kSlotHidden : 0;
+    if ((slot & kSlotHidden) == bit) return;
+    slot ^= kSlotHidden;
+    if (m_pBlockHidden[b] >= 0) m_pBlockHidden[b] += bit ? 1 : -1;
+}
+
+long long CTextZone::HiddenBefore(int nLines) {
+    if (m_bLengthsStale) RebuildLineLengths();
+    long long hidden = 0;
+    int base = 0;
+    for (int b = 0; b < m_nBlockCount && base < nLines; ++b) {
+        const int size = m_pBlockSizes[b];
+        if (base + size <= nLines) {
+            hidden += HiddenInBlock(b);
+        } else {
+            const int* slots = m_ppLengths[b].get();
+            for (int i = 0; i < nLines - base; ++i)
+                hidden += (slots[i] & kSlotHidden) != 0;
+        }
+        base += size;
+    }
+    return hidden;
+}
+
+int CTextZone::LineAtHeight(int y) {
+    if (m_bLengthsStale) RebuildLineLengths();
+    const int h = m_nLineHeight;
+    // The line reached when the shown lines so far, a line high each, pass y.
+    const long long wanted = static_cast<long long>(y) / h + 1;
+    long long shown = 0;
+    int base = 0;
+    for (int b = 0; b < m_nBlockCount; ++b) {
+        const int size = m_pBlockSizes[b];
+        const int visible = size - HiddenInBlock(b);
+        if (shown + visible >= wanted) {
+            const int* slots = m_ppLengths[b].get();
+            for (int i = 0; i < size; ++i)
+                if (!(slots[i] & kSlotHidden) && ++shown == wanted) return base + i;
+        }
+        shown += visible;
+        base += size;
+    }
+    // Below the text every place is one line high.
+    const long long sum = shown * h;
+    return static_cast<int>(m_nLineCount + (y - sum) / h);
 }
 
 void CTextZone::RebuildLineLengths() {
     for (int b = 0; b < m_nBlockCount; ++b) {
         for (int i = 0; i < m_pBlockSizes[b]; ++i)
-            m_ppLengths[b][i] = m_ppBlocks[b][i]->GetLength();
+            m_ppLengths[b][i] = SlotOf(m_ppBlocks[b][i]);
         ForgetLongest(b);
     }
     m_bLengthsStale = false;
@@ -147,10 +215,10 @@ int CTextZone::FindLongestLine(int nFirst, int nLast) {
                 bestLine = -1;
             }
         } else {
-            const int* lengths = m_ppLengths[b].get();
+            const int* slots = m_ppLengths[b].get();
             for (int i = from; i <= to; ++i) {
-                if (lengths[i] > best) {
-                    best = lengths[i];
+                if (SlotLength(slots[i]) > best) {
+                    best = SlotLength(slots[i]);
                     bestLine = base + i;
                 }
             }
@@ -158,10 +226,11 @@ int CTextZone::FindLongestLine(int nFirst, int nLast) {
         base += size;
     }
     if (bestLine < 0 && bestBlock >= 0) {
-        const int* lengths = m_ppLengths[bestBlock].get();
-        bestLine = bestBase + static_cast<int>(std::find(lengths, lengths + m_pBlockSizes[bestBlock],
-                                                         best) -
-                                               lengths);
+        const int* slots = m_ppLengths[bestBlock].get();
+        int i = 0;
+        while (i < m_pBlockSizes[bestBlock] - 1 && SlotLength(slots[i]) != best)
+            ++i;
+        bestLine = bestBase + i;
     }
     return bestLine;
 }

@@ -33,6 +33,7 @@ CTextZone::CTextZone() {
     m_pBlockSizes = std::make_unique<int[]>(m_nGranularity);
     m_ppLengths = std::make_unique<std::unique_ptr<int[]>[]>(m_nGranularity);
     m_pBlockLongest = std::make_unique<int[]>(m_nGranularity);
+    m_pBlockHidden = std::make_unique<int[]>(m_nGranularity);
     m_crBookmark[0] = 0x00FF00;
     for (int i = 1; i < 16; ++i)
         m_crBookmark[i] = static_cast<COLORREF>((i * 16) | ((255 - i * 16) << 16));
@@ -204,11 +205,13 @@ int CTextZone::ExtendGranularity() {
     auto lengths = std::make_unique<std::unique_ptr<int[]>[]>(g);
     auto sizes = std::make_unique<int[]>(g);
     auto longest = std::make_unique<int[]>(g);
+    auto hidden = std::make_unique<int[]>(g);
     // Every block is written before it is read, so none is zero-filled.
     auto newBlock = [&](int nBlock) {
         blocks[nBlock] = std::make_unique_for_overwrite<CStringEx*[]>(static_cast<size_t>(g));
         lengths[nBlock] = std::make_unique_for_overwrite<int[]>(static_cast<size_t>(g));
         longest[nBlock] = -1;
+        hidden[nBlock] = -1;
     };
     int nBlock = 0;
     int nFill = 0;
@@ -238,6 +241,7 @@ int CTextZone::ExtendGranularity() {
     m_ppLengths = std::move(lengths);
     m_pBlockSizes = std::move(sizes);
     m_pBlockLongest = std::move(longest);
+    m_pBlockHidden = std::move(hidden);
     m_nGranularity = g;
     m_nBlockCount = nBlock + 1;
     m_nCacheLine = -1;
