@@ -249,11 +249,13 @@ void BM_GetText(benchmark::State& state) {
     }
 }
 
-template <class P>
+// In the middle, or (kTop) near the top, where QScintilla's per-edit cost
+// that grows with the text behind the edit is small.
+template <class P, bool kTop = false>
 void BM_InsertRemoveLine(benchmark::State& state) {
     const int nLines = static_cast<int>(state.range(0));
     Peer& peer = LoadedPeer<P>(nLines);
-    const int mid = bench::MiddleLine(nLines);
+    const int mid = kTop ? bench::kTopLine : bench::MiddleLine(nLines);
     const int count = peer.LineCount();
     for (auto _ : state) {
         state.SetIterationTime(Seconds([&] {
@@ -393,6 +395,7 @@ void RegisterPeer(const char* name, int size) {
     add("Load", BM_Load<P>);
     add("GetText", BM_GetText<P>);
     add("InsertRemoveLine", BM_InsertRemoveLine<P>);
+    add("InsertRemoveLineTop", BM_InsertRemoveLine<P, true>);
     add("Type", BM_Type<P, true>, true);
     add("Undo", BM_Undo<P, true>, true);
     add("TypeApi", BM_Type<P, false>, true);
