@@ -34,6 +34,8 @@ TASKS = [
     ("RestoreBlocks", "Restore 65535 closed blocks from the block status string"),
     ("DemoOpen", "Demo: open a file, launch to first paint (offscreen)"),
     ("DemoClose", "Demo: close the file's window"),
+    ("DefineColors", "Colour runs of 60 dense T-SQL lines (dialect 90)"),
+    ("StartWithWhat", "Start state of the last line, from a cold start"),
 ]
 
 
