@@ -47,11 +47,11 @@ void CLineFlags::NoteHidden() {
                reinterpret_cast<const char*>(&probe);
     }();
     auto* pLine = reinterpret_cast<CStringEx*>(reinterpret_cast<char*>(this) - offset);
-    if (pLine->m_pOwnerZone) pLine->m_pOwnerZone->NoteLineFlags(pLine);
+    if (pLine->m_nOwnerZone) CTextZone::FromIndex(pLine->m_nOwnerZone)->NoteLineFlags(pLine);
 }
 
 void CStringEx::NoteLength(int nOld) {
-    if (m_pOwnerZone && GetLength() != nOld) m_pOwnerZone->NoteLineLength(this);
+    if (m_nOwnerZone && GetLength() != nOld) CTextZone::FromIndex(m_nOwnerZone)->NoteLineLength(this);
 }
 
 // Each change runs the string's own operation and then tells the zone.

@@ -4,6 +4,8 @@
 // delimiters are 9, 32 and 45.
 #pragma once
 
+#include <cstdint>
+
 #include "host/VeskString.h"
 #include "platform/Types.h"
 #include "textzone/LineFlags.h"
@@ -54,9 +56,11 @@ public:
 
     DWORD m_dwBookmarks = 0;   // one bit per bookmark number
     CLineFlags m_dwBlockFlags;  // 1 opens an open block, 2 opens a closed one, 4 hidden
-    // The zone whose store holds this line, set by the store; null for copies.
-    // It fits the allocator's rounding of the object, so it costs no memory.
-    CTextZone* m_pOwnerZone = nullptr;
+    // The zone whose store holds this line (CTextZone::FromIndex), set by the
+    // store; 0 for copies and loose lines. An index, not a pointer: it fills
+    // the 4 bytes the object had to spare, and a derived line's first member
+    // still fits in the tail, so no line grows.
+    std::uint32_t m_nOwnerZone = 0;
 
 private:
     friend class CLineFlags;

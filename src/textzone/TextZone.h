@@ -8,6 +8,7 @@
 // are declared in their fixed slot order; the source is cut by topic.
 #pragma once
 
+#include <cstdint>
 #include <list>
 #include <memory>
 
@@ -223,6 +224,8 @@ public:
     void SetBookmarkColor(COLORREF cr, int nIndex);
     void SetLineBookmark(int nLine, int nBit, int bOn);
     const GraphicText& getGraphicText() const { return m_GraphicText; }
+    // The zone a line names by CStringEx::m_nOwnerZone.
+    static CTextZone* FromIndex(std::uint32_t nIndex);
     // A line of the store says that its length changed (CStringEx does).
     void NoteLineLength(CStringEx* pLine);
     // Its hidden flag (4 of m_dwBlockFlags) may have changed: every place
@@ -292,6 +295,8 @@ protected:
     int FindLongestLine(int nFirst, int nLast);
     bool FindSlot(const CStringEx* pLine, int* pBlock, int* pIndex);
     void RebuildLineLengths();
+    static std::uint32_t TakeIndex(CTextZone* pZone);
+    static void ReleaseIndex(std::uint32_t nIndex);
     // The number of lines a stream insertion of pszText makes.
     static long long CountTextLines(const char* pszText);
     // Grows the empty store at once to the capacity the insertion of
@@ -403,6 +408,7 @@ public:
     std::unique_ptr<int[]> m_pBlockLongest;
     std::unique_ptr<int[]> m_pBlockHidden;  // hidden lines per block, -1: to be counted
     bool m_bLengthsStale = false;
+    std::uint32_t m_nZoneIndex = TakeIndex(this);  // what this zone's lines name it by
     // Places of the last lines looked up, where a changing line is sought first.
     int m_nRecentBlock[4] = {-1, -1, -1, -1};
     int m_nRecentIndex[4] = {0, 0, 0, 0};

@@ -4,9 +4,50 @@
 // every line of the text on every edit. Here it costs a pass over the
 // blocks' longest lengths and over at most three blocks of integers.
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
+#include <vector>
 
 #include "textzone/TextZone.h"
+
+namespace {
+
+// Every live zone by its index (0 stands for none), for the lines to find
+// their zone by the 4 bytes they keep. Zones live on the user interface
+// thread, like the library's other statics.
+std::vector<CTextZone*>& Zones() {
+    static std::vector<CTextZone*> zones{nullptr};
+    return zones;
+}
+
+std::vector<std::uint32_t>& FreeIndexes() {
+    static std::vector<std::uint32_t> free;
+    return free;
+}
+
+}  // namespace
+
+std::uint32_t CTextZone::TakeIndex(CTextZone* pZone) {
+    auto& zones = Zones();
+    auto& free = FreeIndexes();
+    if (!free.empty()) {
+        const std::uint32_t n = free.back();
+        free.pop_back();
+        zones[n] = pZone;
+        return n;
+    }
+    zones.push_back(pZone);
+    return static_cast<std::uint32_t>(zones.size() - 1);
+}
+
+void CTextZone::ReleaseIndex(std::uint32_t nIndex) {
+    Zones()[nIndex] = nullptr;
+    FreeIndexes().push_back(nIndex);
+}
+
+CTextZone* CTextZone::FromIndex(std::uint32_t nIndex) {
+    return Zones()[nIndex];
+}
 
 void CTextZone::NewStoreBlock(int nBlock) {
     // Slots are written before they are read: no zero-filling.
@@ -23,7 +64,7 @@ void CTextZone::FreeStoreBlock(int nBlock) {
 }
 
 void CTextZone::PutSlot(int nBlock, int nIndex, CStringEx* pLine) {
-    pLine->m_pOwnerZone = this;
+    pLine->m_nOwnerZone = m_nZoneIndex;
     m_ppBlocks[nBlock][nIndex] = pLine;
     m_ppLengths[nBlock][nIndex] = SlotOf(pLine);
     ForgetLongest(nBlock);

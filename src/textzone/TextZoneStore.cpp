@@ -51,6 +51,7 @@ CTextZone::~CTextZone() {
     m_pCurrentOperation.reset();
     m_undoList.clear();
     m_redoList.clear();
+    ReleaseIndex(m_nZoneIndex);
 }
 
 CStringEx* CTextZone::CreateLine() {

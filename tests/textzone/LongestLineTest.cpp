@@ -139,7 +139,7 @@ TEST_F(LongestLineTest, ChangesOutOfSightAreReadAgain) {
     // Copies of lines belong to no zone.
     CStringEx copy(*pFirst);
     copy += "more";
-    EXPECT_EQ(copy.m_pOwnerZone, nullptr);
+    EXPECT_EQ(copy.m_nOwnerZone, 0u);
     EXPECT_EQ(m_zone.GetMaxLineWidth(0, TZ_TO_END), WalkWidth(0, TZ_TO_END));
 }
 
