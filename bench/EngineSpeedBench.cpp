@@ -32,6 +32,43 @@ void BM_InsertRemoveLineTop(benchmark::State& state) {
         state.SkipWithError("the text changed");
 }
 
+// Pasting 1000 lines in the middle, one undo operation (the paste
+// measured, taking them out again not).
+void BM_Paste1000(benchmark::State& state) {
+    const int nLines = static_cast<int>(state.range(0));
+    EngineDoc& doc = LoadedDoc(nLines);
+    const int mid = MiddleLine(nLines);
+    std::string text;
+    for (int i = 0; i < 1000; ++i)
+        text += kInsertedLine;
+    for (auto _ : state) {
+        doc.PlaceCaret(mid, 0);
+        state.SetIterationTime(Seconds([&] { Edit(doc.zone, 6, text.c_str()); }));
+        doc.zone.SetSelection(mid, mid + 1000, 0, 0, 0, 0);
+        Edit(doc.zone, 4, nullptr);
+    }
+    if (doc.zone.GetLineCount() != nLines) state.SkipWithError("the line count changed");
+}
+
+// Find near the end as in the common task list, with case folded.
+void BM_FindNoCase(benchmark::State& state) {
+    const int nLines = static_cast<int>(state.range(0));
+    EngineDoc& doc = LoadedDoc(nLines);
+    std::string word = kNeedle;
+    for (char& c : word)
+        c = static_cast<char>(c >= 'a' && c <= 'z' ? c - 32 : c);
+    for (auto _ : state) {
+        doc.PlaceCaret(0, 0);
+        int found = 0;
+        state.SetIterationTime(
+            Seconds([&] { found = doc.zone.FindTextFromCurrentPos(word.c_str(), 1, 0); }));
+        if (!found || doc.zone.m_nSelStartLine != FindLine(nLines)) {
+            state.SkipWithError("the word was not found on its line");
+            break;
+        }
+    }
+}
+
 // Hides lines 1 to 5 behind every 100th line (its head marked closed), as
 // closed blocks do, or shows them again.
 void HideRanges(CTextZone& zone, bool bHide) {
@@ -121,6 +158,20 @@ void RegisterSpeedBench() {
                       ->UseManualTime()
                       ->Unit(benchmark::kMillisecond);
         if (size == kHuge) b->Iterations(10);
+    }
+    for (int size : {kSmall, kLarge, kHuge}) {
+        auto* b = benchmark::RegisterBenchmark("Paste1000/Textzone", BM_Paste1000)
+                      ->Arg(size)
+                      ->UseManualTime()
+                      ->Unit(benchmark::kMillisecond);
+        if (size == kHuge) b->Iterations(10);
+    }
+    for (int size : {kSmall, kLarge, kHuge}) {
+        auto* b = benchmark::RegisterBenchmark("FindNoCase/Textzone", BM_FindNoCase)
+                      ->Arg(size)
+                      ->UseManualTime()
+                      ->Unit(benchmark::kMillisecond);
+        if (size == kHuge) b->Iterations(3);
     }
     for (int size : {kSmall, kLarge, kHuge}) {
         auto* b = benchmark::RegisterBenchmark("HiddenFrame/Textzone", BM_HiddenFrame)
