@@ -6,11 +6,14 @@
 
 #include "platform/Types.h"
 
+// Only a line makes one (the write finds the line at a fixed distance), so
+// the value is read out as a DWORD: `DWORD dw = pLine->m_dwBlockFlags`.
 class CLineFlags {
-public:
+    friend class CStringEx;
     CLineFlags() = default;
-    CLineFlags(DWORD dw) : m_dw(dw) {}
     CLineFlags(const CLineFlags& src) = default;
+
+public:
     CLineFlags& operator=(const CLineFlags& src) {
         Set(src.m_dw);
         return *this;

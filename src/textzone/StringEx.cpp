@@ -61,7 +61,6 @@ void CStringEx::NoteLength(int nOld) {
     NoteLength(nOld);             \
     return *this
 
-CStringEx& CStringEx::operator=(const char* psz) { TZ_NOTED(operator=(psz)); }
 CStringEx& CStringEx::operator+=(const char* psz) { TZ_NOTED(operator+=(psz)); }
 CStringEx& CStringEx::operator+=(char c) { TZ_NOTED(operator+=(c)); }
 CStringEx& CStringEx::operator+=(const VESK::String& s) { TZ_NOTED(operator+=(s)); }

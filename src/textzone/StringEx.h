@@ -24,7 +24,8 @@ public:
     // The string's changes that can alter the length, redeclared so that a
     // line in a zone's store tells the zone its new length (the zone keeps
     // every line's length for the horizontal range without visiting lines).
-    CStringEx& operator=(const char* psz);
+    // Assigning a text goes through a fresh line, as it always has, so it
+    // clears the bookmarks and flags.
     CStringEx& operator+=(const char* psz);
     CStringEx& operator+=(char c);
     CStringEx& operator+=(const VESK::String& s);
