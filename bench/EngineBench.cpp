@@ -229,8 +229,10 @@ int WriteSql(int nLines, const char* pszPath) {
 
 int main(int argc, char** argv) {
     CHeadlessPlatform platform;
-    if (argc == 3 && std::strcmp(argv[1], "--memory") == 0) return MeasureMemory(std::atoi(argv[2]));
-    if (argc == 4 && std::strcmp(argv[1], "--write-sql") == 0) return WriteSql(std::atoi(argv[2]), argv[3]);
+    if (argc == 3 && std::strcmp(argv[1], "--memory") == 0)
+        return MeasureMemory(std::atoi(argv[2]));
+    if (argc == 4 && std::strcmp(argv[1], "--write-sql") == 0)
+        return WriteSql(std::atoi(argv[2]), argv[3]);
     Register();
     RegisterSpeedBench();
     benchmark::Initialize(&argc, argv);

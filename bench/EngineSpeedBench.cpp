@@ -153,10 +153,11 @@ void BM_RestoreBlocks(benchmark::State& state) {
 
 void RegisterSpeedBench() {
     for (int size : {kSmall, kLarge, kHuge}) {
-        auto* b = benchmark::RegisterBenchmark("InsertRemoveLineTop/Textzone", BM_InsertRemoveLineTop)
-                      ->Arg(size)
-                      ->UseManualTime()
-                      ->Unit(benchmark::kMillisecond);
+        auto* b =
+            benchmark::RegisterBenchmark("InsertRemoveLineTop/Textzone", BM_InsertRemoveLineTop)
+                ->Arg(size)
+                ->UseManualTime()
+                ->Unit(benchmark::kMillisecond);
         if (size == kHuge) b->Iterations(10);
     }
     for (int size : {kSmall, kLarge, kHuge}) {

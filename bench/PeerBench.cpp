@@ -7,6 +7,7 @@
 //   bench_peers --memory qscintilla|qplaintextedit LINES
 #include <benchmark/benchmark.h>
 
+#include <Qsci/qsciscintilla.h>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPixmap>
@@ -15,7 +16,6 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
-#include <Qsci/qsciscintilla.h>
 #include <chrono>
 #include <cstdio>
 #include <cstring>
@@ -66,7 +66,8 @@ const SourceText& Text(int nLines) {
         text.string.clear();
         text.string.squeeze();
         text.bytes = bench::MakeSqlText(nLines);
-        text.string = QString::fromLatin1(text.bytes.data(), static_cast<qsizetype>(text.bytes.size()));
+        text.string =
+            QString::fromLatin1(text.bytes.data(), static_cast<qsizetype>(text.bytes.size()));
         text.lines = nLines;
     }
     return text;
@@ -128,7 +129,9 @@ public:
         m_sci.removeSelectedText();
     }
     void PlaceCaret(int nLine) override { m_sci.setCursorPosition(nLine, 0); }
-    void InsertAtCaret(char c) override { m_sci.SendScintilla(QsciScintillaBase::SCI_ADDTEXT, 1UL, &c); }
+    void InsertAtCaret(char c) override {
+        m_sci.SendScintilla(QsciScintillaBase::SCI_ADDTEXT, 1UL, &c);
+    }
     void Undo() override { m_sci.undo(); }
     bool CanUndo() override { return m_sci.isUndoAvailable(); }
     int LineLength(int nLine) override { return m_sci.lineLength(nLine); }

@@ -1,12 +1,12 @@
 #include "apps/demo/DemoWindow.h"
 
+#include <unistd.h>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QPixmap>
 #include <QStatusBar>
-#include <unistd.h>
 
 #include <cstring>
 #include <memory>
@@ -71,8 +71,8 @@ bool CDemoWindow::OpenFile(const QString& path) {
     // CR LF if any CR is followed by LF; memchr skips to CRs, which plain
     // LF text has none of.
     m_bCrLf = false;
-    for (const char* p = text; !m_bCrLf && (p = static_cast<const char*>(
-                                                 std::memchr(p, '\r', n - (p - text))));)
+    for (const char* p = text;
+         !m_bCrLf && (p = static_cast<const char*>(std::memchr(p, '\r', n - (p - text))));)
         m_bCrLf = *++p == '\n';
     m_bFinalLineEnd = n == 0 || text[n - 1] == '\n' || text[n - 1] == '\r';
     // The text is 8-bit: a 0 byte would end it, so it becomes a blank.
@@ -108,7 +108,9 @@ bool CDemoWindow::SaveFile(const QString& path) {
 
 QString CDemoWindow::CaretText() {
     CTextZone& zone = m_pEditor->Zone();
-    return QString("Ln %1, Col %2").arg(zone.GetSelMobileLine() + 1).arg(zone.GetSelMobileChar() + 1);
+    return QString("Ln %1, Col %2")
+        .arg(zone.GetSelMobileLine() + 1)
+        .arg(zone.GetSelMobileChar() + 1);
 }
 
 bool CDemoWindow::SaveScreenshot(const QString& path) {

@@ -6,8 +6,8 @@
 // scripts/bench).
 #include <QApplication>
 #include <QEvent>
-#include <QWidget>
 #include <QTimer>
+#include <QWidget>
 #include <chrono>
 #include <cstdio>
 #include <cstring>

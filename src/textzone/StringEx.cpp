@@ -1,8 +1,8 @@
 #include "textzone/StringEx.h"
 
 #include <cstdarg>
-#include <cstdio>
 #include <cstddef>
+#include <cstdio>
 #include <cstdlib>
 #include <string>
 
@@ -51,33 +51,52 @@ void CLineFlags::NoteHidden() {
 }
 
 void CStringEx::NoteLength(int nOld) {
-    if (m_nOwnerZone && GetLength() != nOld) CTextZone::FromIndex(m_nOwnerZone)->NoteLineLength(this);
+    if (m_nOwnerZone && GetLength() != nOld)
+        CTextZone::FromIndex(m_nOwnerZone)->NoteLineLength(this);
 }
 
 // Each change runs the string's own operation and then tells the zone.
-#define TZ_NOTED(call)            \
-    const int nOld = GetLength(); \
-    VESK::String::call;           \
-    NoteLength(nOld);             \
-    return *this
+template <class F>
+CStringEx& CStringEx::Noted(F change) {
+    const int nOld = GetLength();
+    change();
+    NoteLength(nOld);
+    return *this;
+}
 
-CStringEx& CStringEx::operator+=(const char* psz) { TZ_NOTED(operator+=(psz)); }
-CStringEx& CStringEx::operator+=(char c) { TZ_NOTED(operator+=(c)); }
-CStringEx& CStringEx::operator+=(const VESK::String& s) { TZ_NOTED(operator+=(s)); }
-CStringEx& CStringEx::keepLeft(int n) { TZ_NOTED(keepLeft(n)); }
-CStringEx& CStringEx::discardLeft(int n) { TZ_NOTED(discardLeft(n)); }
-CStringEx& CStringEx::discardRight(int n) { TZ_NOTED(discardRight(n)); }
-CStringEx& CStringEx::deleteAt(int nPos, int nCount) { TZ_NOTED(deleteAt(nPos, nCount)); }
-CStringEx& CStringEx::insertAt(int nPos, char c) { TZ_NOTED(insertAt(nPos, c)); }
-CStringEx& CStringEx::insertAt(int nPos, const char* psz) { TZ_NOTED(insertAt(nPos, psz)); }
-CStringEx& CStringEx::insertAt(int nPos, const VESK::String& s) { TZ_NOTED(insertAt(nPos, s)); }
-
-#undef TZ_NOTED
+CStringEx& CStringEx::operator+=(const char* psz) {
+    return Noted([&] { VESK::String::operator+=(psz); });
+}
+CStringEx& CStringEx::operator+=(char c) {
+    return Noted([&] { VESK::String::operator+=(c); });
+}
+CStringEx& CStringEx::operator+=(const VESK::String& s) {
+    return Noted([&] { VESK::String::operator+=(s); });
+}
+CStringEx& CStringEx::keepLeft(int n) {
+    return Noted([&] { VESK::String::keepLeft(n); });
+}
+CStringEx& CStringEx::discardLeft(int n) {
+    return Noted([&] { VESK::String::discardLeft(n); });
+}
+CStringEx& CStringEx::discardRight(int n) {
+    return Noted([&] { VESK::String::discardRight(n); });
+}
+CStringEx& CStringEx::deleteAt(int nPos, int nCount) {
+    return Noted([&] { VESK::String::deleteAt(nPos, nCount); });
+}
+CStringEx& CStringEx::insertAt(int nPos, char c) {
+    return Noted([&] { VESK::String::insertAt(nPos, c); });
+}
+CStringEx& CStringEx::insertAt(int nPos, const char* psz) {
+    return Noted([&] { VESK::String::insertAt(nPos, psz); });
+}
+CStringEx& CStringEx::insertAt(int nPos, const VESK::String& s) {
+    return Noted([&] { VESK::String::insertAt(nPos, s); });
+}
 
 void CStringEx::Empty() {
-    const int nOld = GetLength();
-    VESK::String::Empty();
-    NoteLength(nOld);
+    Noted([&] { VESK::String::Empty(); });
 }
 
 CStringEx& CStringEx::Format(const char* pszFormat, ...) {
@@ -96,9 +115,7 @@ CStringEx& CStringEx::Format(const char* pszFormat, ...) {
 }
 
 void CStringEx::assign(const char* p, int n) {
-    const int nOld = GetLength();
-    VESK::String::assign(p, n);
-    NoteLength(nOld);
+    Noted([&] { VESK::String::assign(p, n); });
 }
 
 int CStringEx::IsEnded() const {

@@ -55,7 +55,7 @@ public:
     virtual char* GetSpecificInfo();
     virtual void SetSpecificInfo(char* pszInfo);
 
-    DWORD m_dwBookmarks = 0;   // one bit per bookmark number
+    DWORD m_dwBookmarks = 0;    // one bit per bookmark number
     CLineFlags m_dwBlockFlags;  // 1 opens an open block, 2 opens a closed one, 4 hidden
     // The zone whose store holds this line (CTextZone::FromIndex), set by the
     // store; 0 for copies and loose lines. An index, not a pointer: it fills
@@ -67,6 +67,9 @@ private:
     friend class CLineFlags;
     // Tells the owning zone if the length is no longer nOld.
     void NoteLength(int nOld);
+    // Runs a change of the string and tells the zone of a new length.
+    template <class F>
+    CStringEx& Noted(F change);
 
     // Index of the first wrap delimiter after the leading blanks, or -1 if the
     // text ends first.

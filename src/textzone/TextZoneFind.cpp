@@ -34,7 +34,8 @@ public:
         m_first[1] = m_first[0];
         if (!bMatchCase) {
             for (int c = 0; c < 256; ++c)
-                if (m_fold[c] == m_folded[0] && c != m_first[0]) m_first[1] = static_cast<unsigned char>(c);
+                if (m_fold[c] == m_folded[0] && c != m_first[0])
+                    m_first[1] = static_cast<unsigned char>(c);
         }
     }
 

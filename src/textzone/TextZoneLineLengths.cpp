@@ -71,14 +71,13 @@ void CTextZone::PutSlot(int nBlock, int nIndex, CStringEx* pLine) {
     RememberPlace(nBlock, nIndex);
 }
 
-void CTextZone::MoveSlots(int nToBlock, int nToIndex, int nFromBlock, int nFromIndex,
-                          int nCount) {
+void CTextZone::MoveSlots(int nToBlock, int nToIndex, int nFromBlock, int nFromIndex, int nCount) {
     if (nCount <= 0) return;
     const auto n = static_cast<size_t>(nCount);
     std::memmove(m_ppBlocks[nToBlock].get() + nToIndex, m_ppBlocks[nFromBlock].get() + nFromIndex,
                  sizeof(CStringEx*) * n);
-    std::memmove(m_ppLengths[nToBlock].get() + nToIndex,
-                 m_ppLengths[nFromBlock].get() + nFromIndex, sizeof(int) * n);
+    std::memmove(m_ppLengths[nToBlock].get() + nToIndex, m_ppLengths[nFromBlock].get() + nFromIndex,
+                 sizeof(int) * n);
     ForgetLongest(nToBlock);
     ForgetLongest(nFromBlock);
 }
@@ -280,14 +279,12 @@ long long CTextZone::CountTextLines(const char* pszText) {
     const size_t length = std::strlen(pszText);
     const char* end = pszText + length;
     long long ends = 0;
-    for (const char* p = pszText; (p = static_cast<const char*>(
-                                       std::memchr(p, '\n', static_cast<size_t>(end - p))));
-         ++p)
+    for (const char* p = pszText;
+         (p = static_cast<const char*>(std::memchr(p, '\n', static_cast<size_t>(end - p)))); ++p)
         ++ends;
     // A CR is a line end of its own unless an LF follows it.
-    for (const char* p = pszText; (p = static_cast<const char*>(
-                                       std::memchr(p, '\r', static_cast<size_t>(end - p))));
-         ++p)
+    for (const char* p = pszText;
+         (p = static_cast<const char*>(std::memchr(p, '\r', static_cast<size_t>(end - p)))); ++p)
         if (p[1] != '\n') ++ends;
     const bool endsWithLineEnd = length > 0 && (end[-1] == '\r' || end[-1] == '\n');
     return ends + (length > 0 && !endsWithLineEnd ? 1 : 0);

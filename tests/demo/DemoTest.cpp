@@ -41,14 +41,14 @@ protected:
     // A press, a move with the button held and a release, in the editor's widget.
     void Drag(QPoint from, QPoint to) {
         QWidget* widget = EditorWidget();
-        QMouseEvent press(QEvent::MouseButtonPress, from, widget->mapToGlobal(from),
-                          Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QMouseEvent press(QEvent::MouseButtonPress, from, widget->mapToGlobal(from), Qt::LeftButton,
+                          Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(widget, &press);
         QMouseEvent move(QEvent::MouseMove, to, widget->mapToGlobal(to), Qt::NoButton,
                          Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(widget, &move);
-        QMouseEvent release(QEvent::MouseButtonRelease, to, widget->mapToGlobal(to),
-                            Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+        QMouseEvent release(QEvent::MouseButtonRelease, to, widget->mapToGlobal(to), Qt::LeftButton,
+                            Qt::NoButton, Qt::NoModifier);
         QApplication::sendEvent(widget, &release);
         Pump();
     }

@@ -123,10 +123,10 @@ TEST_F(FindDifferentialTest, RandomSearchesFindWhatThePlainSearchFinds) {
                 Place actual{found, found ? m_zone.m_nSelStartLine : 0,
                              found ? m_zone.m_nSelStartChar : 0};
                 ASSERT_EQ(actual, expected)
-                    << "round " << round << " word '" << word << "' forward " << forward
-                    << " case " << matchCase << " step " << step << ": expected line "
-                    << expected.line << " at " << expected.start << ", got line " << actual.line
-                    << " at " << actual.start;
+                    << "round " << round << " word '" << word << "' forward " << forward << " case "
+                    << matchCase << " step " << step << ": expected line " << expected.line
+                    << " at " << expected.start << ", got line " << actual.line << " at "
+                    << actual.start;
                 if (!found) break;
             }
         }

@@ -43,7 +43,8 @@ protected:
         }
         m_zone.m_nVScrollPos = static_cast<int>(rng() % (n + 3));
         long long offset = 0;
-        for (int line = 0; line < m_zone.m_nVScrollPos * m_zone.m_nLinesPerUnit + m_zone.m_nUnitRemainder; ++line)
+        for (int line = 0;
+             line < m_zone.m_nVScrollPos * m_zone.m_nLinesPerUnit + m_zone.m_nUnitRemainder; ++line)
             offset += m_zone.GetLineHeight(line);
         ASSERT_EQ(m_zone.GetVScrollOffset(), offset) << what;
     }
@@ -71,8 +72,8 @@ TEST_F(LinePositionTest, HiddenLinesCountedPerBlockMatchTheWalk) {
             // Set straight on the line, as a host may.
             if (CStringEx* pLine = m_zone.GetLine(line)) pLine->m_dwBlockFlags ^= 4;
         } else if (op < 6) {
-            m_zone.SetSelection(line, std::min(n - 1, line + static_cast<int>(rng() % 30)), 0, 0,
-                                1, 0);
+            m_zone.SetSelection(line, std::min(n - 1, line + static_cast<int>(rng() % 30)), 0, 0, 1,
+                                0);
             m_zone.SetModify(1);
             m_zone.StartRegister(op == 4 ? 6 : 4);
             if (op == 4)

@@ -167,7 +167,8 @@ TEST_F(LongestLineTest, ALoadLeavesTheBlocksOfStepwiseGrowth) {
             for (int i = 1; i < lines; ++i)
                 oracle.InsertLine(i);
             oracle.RemoveLines(lines, 1);
-            const std::string what = std::to_string(lines) + (reload ? " lines reloaded" : " lines");
+            const std::string what =
+                std::to_string(lines) + (reload ? " lines reloaded" : " lines");
             ASSERT_EQ(zone.GetLineCount(), lines) << what;
             ASSERT_EQ(zone.m_nGranularity, oracle.m_nGranularity) << what;
             ASSERT_EQ(zone.m_nBlockCount, oracle.m_nBlockCount) << what;
