@@ -14,11 +14,15 @@
 
 #include "textzone/TextZone.h"
 
-CDemoWindow::CDemoWindow(QWidget* pParent) : QMainWindow(pParent) {
-    m_pEditor = new CQtEditorWidget(this);
+CDemoWindow::CDemoWindow(QWidget* pParent)
+    : QMainWindow(pParent), m_pZone(std::make_unique<CTextZoneColor>()) {
+    m_pEditor = new CQtEditorWidget(this, WS_VSCROLL | WS_HSCROLL | WS_BORDER, m_pZone.get());
     setCentralWidget(m_pEditor);
     m_pStatus = new QLabel(this);
     statusBar()->addWidget(m_pStatus);
+    m_pLanguage = new QLabel(this);
+    statusBar()->addPermanentWidget(m_pLanguage);
+    ApplyLanguage(CLanguageChoice());
 
     QMenu* pFile = menuBar()->addMenu("&File");
     pFile->addAction("&Open...", QKeySequence::Open, [this] {
@@ -43,6 +47,25 @@ CDemoWindow::CDemoWindow(QWidget* pParent) : QMainWindow(pParent) {
     m_statusTimer.start(100);
     UpdateStatus();
     UpdateTitle();
+}
+
+CDemoWindow::~CDemoWindow() {
+    // The control goes before the zone it borrows.
+    delete m_pEditor;
+    m_pEditor = nullptr;
+}
+
+void CDemoWindow::SetLanguage(const CLanguageChoice& choice) {
+    m_bLanguageChosen = true;
+    ApplyLanguage(choice);
+}
+
+void CDemoWindow::ApplyLanguage(const CLanguageChoice& choice) {
+    m_language = choice;
+    choice.Apply(*m_pZone);
+    // Some language switches leave the repaint to the host.
+    m_pZone->RedrawTextZone();
+    m_pLanguage->setText(QString::fromStdString(choice.Name()));
 }
 
 bool CDemoWindow::OpenFile(const QString& path) {
@@ -78,6 +101,7 @@ bool CDemoWindow::OpenFile(const QString& path) {
     // The text is 8-bit: a 0 byte would end it, so it becomes a blank.
     for (char* p = text; (p = static_cast<char*>(std::memchr(p, 0, n - (p - text))));)
         *p = ' ';
+    if (!m_bLanguageChosen) ApplyLanguage(CLanguageChoice::ForPath(path.toStdString()));
     m_pEditor->Editor().SetWindowTextA(text);
     if (pMap) file.unmap(pMap);
     // A file opens at its top, the caret at its start.

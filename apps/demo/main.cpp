@@ -1,8 +1,10 @@
-// textzone-demo [FILE] [--screenshot FILE.png | --time-open]
-// Opens FILE in an editor window. Without a display, or with --screenshot,
-// it renders the window offscreen into a PNG instead and exits. With
+// textzone-demo [FILE] [--lang ID] [--dialect N] [--screenshot FILE.png | --time-open]
+// Opens FILE in an editor window, coloured by its extension, or as the
+// language of --lang (a language id or an extension name: 1300, java) or the
+// SQL dialect of --dialect (150, -92, ...). Without a display, or with
+// --screenshot, it renders the window offscreen into a PNG and exits. With
 // --time-open it opens FILE offscreen, waits for the editor's first paint,
-// closes the window and prints the times of both as one JSON line (for
+// closes the window and prints the times of both as JSON lines (for
 // scripts/bench).
 #include <QApplication>
 #include <QEvent>
@@ -10,6 +12,7 @@
 #include <QWidget>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <memory>
 
@@ -41,9 +44,11 @@ public:
 
 // Opens the file, shows the window until the editor has painted once, then
 // closes it: the times from the start of main, as a host's user sees them.
-int TimeOpen(QApplication& app, const char* pszFile, Clock::time_point t0) {
+int TimeOpen(QApplication& app, const char* pszFile, const CLanguageChoice* pLanguage,
+             Clock::time_point t0) {
     auto window = std::make_unique<CDemoWindow>();
     window->resize(900, 600);
+    if (pLanguage) window->SetLanguage(*pLanguage);
     if (!window->OpenFile(QString::fromLocal8Bit(pszFile))) {
         std::fprintf(stderr, "textzone-demo: cannot read %s\n", pszFile);
         return 1;
@@ -76,21 +81,39 @@ int main(int argc, char** argv) {
     const Clock::time_point t0 = Clock::now();
     const char* pszFile = nullptr;
     const char* pszShot = nullptr;
+    CLanguageChoice language;
+    bool bLanguage = false;
     bool bTimeOpen = false;
     for (int i = 1; i < argc; ++i) {
-        if (std::strcmp(argv[i], "--screenshot") == 0 && i + 1 < argc)
+        const bool bValue = i + 1 < argc;
+        if (std::strcmp(argv[i], "--screenshot") == 0 && bValue) {
             pszShot = argv[++i];
-        else if (std::strcmp(argv[i], "--time-open") == 0)
+        } else if (std::strcmp(argv[i], "--time-open") == 0) {
             bTimeOpen = true;
-        else
+        } else if (std::strcmp(argv[i], "--lang") == 0 && bValue) {
+            bLanguage = true;
+            if (!CLanguageChoice::FromArgument(argv[++i], &language)) {
+                std::fprintf(stderr, "textzone-demo: no language %s\n", argv[i]);
+                return 2;
+            }
+        } else if (std::strcmp(argv[i], "--dialect") == 0 && bValue) {
+            bLanguage = true;
+            char* pEnd = nullptr;
+            const long n = std::strtol(argv[++i], &pEnd, 10);
+            if (*pEnd || !CLanguageChoice::FromDialect(static_cast<int>(n), &language)) {
+                std::fprintf(stderr, "textzone-demo: no SQL dialect %s\n", argv[i]);
+                return 2;
+            }
+        } else {
             pszFile = argv[i];
+        }
     }
     if (bTimeOpen) {
         if (!pszFile) return 1;
         qputenv("QT_QPA_PLATFORM", "offscreen");
         QApplication app(argc, argv);
         CQtPlatform platform;
-        return TimeOpen(app, pszFile, t0);
+        return TimeOpen(app, pszFile, bLanguage ? &language : nullptr, t0);
     }
     const bool bDisplay =
         !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
@@ -102,6 +125,7 @@ int main(int argc, char** argv) {
     CQtPlatform platform;
     CDemoWindow window;
     window.resize(900, 600);
+    if (bLanguage) window.SetLanguage(language);
     if (pszFile && !window.OpenFile(QString::fromLocal8Bit(pszFile))) {
         std::fprintf(stderr, "textzone-demo: cannot read %s\n", pszFile);
         return 1;

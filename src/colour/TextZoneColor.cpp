@@ -3,6 +3,7 @@
 #include "colour/TextZoneColor.h"
 
 #include <algorithm>
+#include <climits>
 #include <cstdlib>
 #include <cstring>
 
@@ -164,6 +165,58 @@ void CTextZoneColor::CloseColorDef(int nPos) {
                                [](const auto& def, int pos) { return def->nPos < pos; });
     if (it != m_colorDefs.end() && (*it)->nPos == nPos) return;
     AddColorDef(nPos, m_crRunText);
+}
+
+void CTextZoneColor::AddTokenRuns(std::vector<TokenRun>& tokens) {
+    // Adding a run replaces one at its place; a close gives way to any run
+    // at its place. With tokens apart, that makes the order of the tokens
+    // irrelevant: merge the runs there are with the starts and the closes.
+    std::sort(tokens.begin(), tokens.end(),
+              [](const TokenRun& a, const TokenRun& b) { return a.nStart < b.nStart; });
+    auto take = [&](int nPos, COLORREF crColor) {
+        std::unique_ptr<CColorDef> def;
+        if (!m_freeColorDefs.empty()) {
+            def = std::move(m_freeColorDefs.back());
+            m_freeColorDefs.pop_back();
+        } else {
+            def = std::make_unique<CColorDef>();
+        }
+        def->nPos = nPos;
+        def->crColor = crColor;
+        m_mergedDefs.push_back(std::move(def));
+    };
+    m_mergedDefs.clear();
+    size_t e = 0;  // the runs there are
+    size_t t = 0;  // token starts
+    size_t c = 0;  // token closes, ascending as the tokens lie apart
+    const size_t nRuns = m_colorDefs.size();
+    const size_t nTokens = tokens.size();
+    for (;;) {
+        int p = INT_MAX;
+        if (e < nRuns) p = std::min(p, m_colorDefs[e]->nPos);
+        if (t < nTokens) p = std::min(p, tokens[t].nStart);
+        if (c < nTokens) p = std::min(p, tokens[c].nEnd);
+        if (p == INT_MAX) break;
+        const bool bRun = e < nRuns && m_colorDefs[e]->nPos == p;
+        const bool bStart = t < nTokens && tokens[t].nStart == p;
+        if (bStart) {
+            if (bRun) {
+                m_colorDefs[e]->crColor = tokens[t].crColor;
+                m_mergedDefs.push_back(std::move(m_colorDefs[e++]));
+            } else {
+                take(p, tokens[t].crColor);
+            }
+            ++t;
+        } else if (bRun) {
+            m_mergedDefs.push_back(std::move(m_colorDefs[e++]));
+        } else {
+            take(p, m_crRunText);
+        }
+        while (c < nTokens && tokens[c].nEnd == p)
+            ++c;
+    }
+    m_colorDefs.swap(m_mergedDefs);
+    m_mergedDefs.clear();
 }
 
 void CTextZoneColor::FreeColorDefs() {

@@ -9,8 +9,9 @@
 // operations), TextZoneColorLanguages.cpp, TextZoneColorStates.cpp (start
 // states and delimiter search), TextZoneColorRuns.cpp (DefineColors),
 // TextZoneColorJcl.cpp, TextZoneColorMarkup*.cpp and TextZoneColorEmbedded.cpp
-// (markup and the script embedded in it), TextZoneColorLater.cpp (completion,
-// not in this zone yet).
+// (markup and the script embedded in it), TextZoneColorDraw.cpp
+// (DrawTextLine), TextZoneColorKeys.cpp (HandleKeyDown),
+// TextZoneColorLater.cpp (completion, not in this zone yet).
 #pragma once
 
 #include <cstdint>
@@ -67,6 +68,9 @@ public:
     void HandleChar(UINT nChar, UINT nRepCnt, UINT nFlags) override;
     void HandleKillFocus(CWnd* pNewWnd) override;
     LONG HandleUserMessage(std::uint64_t wParam, std::int64_t lParam) override;
+    // Undo gives box edits their old lines back in place, past the wrapped
+    // edits: the states from the first such line on are dropped here.
+    void PerformUndoing(CUndoOperation* pOperation) override;
 
 protected:
     virtual void ResetLastLines(int nLine);
@@ -122,6 +126,16 @@ protected:
     void AddColorDef(int nPos, COLORREF crColor);
     // Text colour from nPos on, unless a run already starts there.
     void CloseColorDef(int nPos);
+    // A token coloured from nStart, closed at nEnd.
+    struct TokenRun {
+        int nStart;
+        int nEnd;
+        COLORREF crColor;
+    };
+    // The same as AddColorDef and CloseColorDef for each token, for tokens
+    // that lie apart from each other and from what has runs already, in
+    // one merge: a long line has thousands of them.
+    void AddTokenRuns(std::vector<TokenRun>& tokens);
 
     // --- Delimiter search (TextZoneColorStates.cpp) ---
     // The closing delimiter of the construct of state *pState, searched from
@@ -163,6 +177,28 @@ protected:
     // BuildEmbeddedColor on the bytes [nFrom, nTo) of text.
     void ColorEmbeddedPiece(const std::string& text, int nFrom, int nTo, std::uint32_t nType,
                             bool bJava);
+
+    // --- Drawing and the edit wrappers (TextZoneColorDraw.cpp,
+    // TextZoneColorEdit.cpp, TextZoneColorKeys.cpp) ---
+    void DrawMarginMarks(CDC* pDC, DWORD marks, int y, int h);
+    // Where the drawing walk of a line scrolled to the left can start: the
+    // last place at which the walk cuts the text whose text ends left of
+    // the rectangle, with its offset in *pdx; 0 for the line's start.
+    int FirstVisibleCut(CDC* pDC, const char* p, int n, int x, int A, int B, bool bStartSelected,
+                        int* pdx);
+    // The states from nLine on are no longer trusted, and everything from
+    // the first selected line down is repainted (at once with bUpdate).
+    void InvalidateFrom(int nLine, int bUpdate);
+    // The bytes before and at the caret (the selection's start), 0 where
+    // there is none.
+    void BytesAroundCaret(char* pcBefore, char* pcAt);
+    // Whether the caret line ends in a backslash that goes on into the next
+    // line, and whether it ends in " _"; the state of the next line
+    // depends on both.
+    bool EndsInBackslash(int nLine);
+    bool HasContinuationEnding(int nLine);
+    // Whether the two bytes can take part in a comment delimiter.
+    bool FormsCommentDelimiter(char cBefore, char cAt);
 
 public:
     // The members, in the order of the class.
@@ -211,6 +247,8 @@ public:
 private:
     CKeywordIndex m_keywordIndex;  // of the tables the last line was coloured with
     std::vector<KeywordToken> m_keywordTokens;
+    std::vector<TokenRun> m_tokenRuns;
+    std::vector<std::unique_ptr<CColorDef>> m_mergedDefs;
     CKeywordIndex m_markupIndex;       // element and attribute names
     CKeywordIndex m_embeddedIndex[2];  // the VB-like and the Java-like script words
     std::string m_embeddedPiece;       // scratch for the pieces of embedded script

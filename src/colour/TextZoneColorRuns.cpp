@@ -140,10 +140,10 @@ void CTextZoneColor::KeywordPass(std::string& text, const char* const* const* pp
     if (!m_keywordIndex.IsBuiltFor(ppTables, nTables)) m_keywordIndex.Build(ppTables, nTables);
     m_keywordTokens.clear();
     m_keywordIndex.Take(text, bFold, bounds, m_keywordTokens);
-    for (const KeywordToken& token : m_keywordTokens) {
-        AddColorDef(token.nStart, pColors[token.nTable]);
-        CloseColorDef(token.nEnd);
-    }
+    m_tokenRuns.clear();
+    for (const KeywordToken& token : m_keywordTokens)
+        m_tokenRuns.push_back(TokenRun{token.nStart, token.nEnd, pColors[token.nTable]});
+    AddTokenRuns(m_tokenRuns);
 }
 
 void CTextZoneColor::VariablePass(std::string& text) {
@@ -153,6 +153,7 @@ void CTextZoneColor::VariablePass(std::string& text) {
     // text, where that "@b" still stands.
     std::string copy = text;
     const int n = static_cast<int>(copy.size());
+    m_tokenRuns.clear();
     for (int p = 0; p < n; ++p) {
         if (copy[p] != '@' || p == 0 || !IsVariableChar(static_cast<unsigned char>(copy[p - 1])))
             continue;
@@ -169,10 +170,10 @@ void CTextZoneColor::VariablePass(std::string& text) {
         while (end < n && IsVariableChar(static_cast<unsigned char>(copy[end])))
             ++end;
         end = SkipBlanks(text, end);
-        AddColorDef(p, m_crSyntax[SC_VARIABLE - 1]);
-        CloseColorDef(end);
+        m_tokenRuns.push_back(TokenRun{p, end, m_crSyntax[SC_VARIABLE - 1]});
         Overwrite(copy, p, end);
         Overwrite(text, p, end);
         p = end;
     }
+    AddTokenRuns(m_tokenRuns);
 }

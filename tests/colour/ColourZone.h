@@ -13,15 +13,20 @@
 
 class CTestColorZone : public CTextZoneColor {
 public:
+    using CTextZoneColor::AddColorDef;
+    using CTextZoneColor::AddTokenRuns;
     using CTextZoneColor::BuildEmbeddedColor;
+    using CTextZoneColor::CloseColorDef;
     using CTextZoneColor::ContinuationPass;
     using CTextZoneColor::CreateLine;
     using CTextZoneColor::DefineColors;
     using CTextZoneColor::FindOpener;
     using CTextZoneColor::GetEndEmbeddedType;
+    using CTextZoneColor::GetHScrollOffset;
     using CTextZoneColor::ResetLastLines;
     using CTextZoneColor::StartWithWhat;
     using CTextZoneColor::TokenPass;
+    using CTextZoneColor::TokenRun;
 };
 
 // The colour a test gives class c (1 to 9), and the zone's text colour.
