@@ -1,5 +1,6 @@
 #include "apps/demo/DemoWindow.h"
 
+#include <unistd.h>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -7,7 +8,10 @@
 #include <QPixmap>
 #include <QSplitter>
 #include <QStatusBar>
+#include <algorithm>
 #include <cctype>
+#include <cstring>
+#include <memory>
 #include <string>
 
 #include "textzone/TextZone.h"
@@ -91,22 +95,42 @@ void CDemoWindow::ApplyLanguage(const CLanguageChoice& choice) {
 bool CDemoWindow::OpenFile(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) return false;
-    const QByteArray bytes = file.readAll();
-    m_bCrLf = bytes.contains("\r\n");
-    m_bFinalLineEnd = bytes.isEmpty() || bytes.endsWith('\n') || bytes.endsWith('\r');
+    // The file is mapped, not read: the zone makes the only copy of the text
+    // it keeps. A private mapping may be written without touching the file.
+    const qint64 size = file.size();
+    const auto n = static_cast<size_t>(size);
+    uchar* pMap = size > 0 ? file.map(0, size, QFileDevice::MapPrivateOption) : nullptr;
+    std::unique_ptr<char[]> copy;
+    char* text = reinterpret_cast<char*>(pMap);
+    const long page = sysconf(_SC_PAGESIZE);
+    // Behind the end of a file the rest of its last page reads as 0, which
+    // ends the text; a file that fills its last page needs a copy for that 0.
+    if (!text || page <= 0 || n % static_cast<size_t>(page) == 0) {
+        copy = std::make_unique_for_overwrite<char[]>(n + 1);
+        if (text) {
+            std::memcpy(copy.get(), text, n);
+        } else if (size > 0 && file.read(copy.get(), size) != size) {
+            return false;
+        }
+        copy[n] = 0;
+        text = copy.get();
+    }
+    // CR LF if any CR is followed by LF; memchr skips to CRs, which plain
+    // LF text has none of.
+    m_bCrLf = false;
+    for (const char* p = text;
+         !m_bCrLf && (p = static_cast<const char*>(std::memchr(p, '\r', n - (p - text))));)
+        m_bCrLf = *++p == '\n';
+    m_bFinalLineEnd = n == 0 || text[n - 1] == '\n' || text[n - 1] == '\r';
     // The text is 8-bit: a 0 byte would end it, so it becomes a blank.
-    std::string text(bytes.constData(), static_cast<size_t>(bytes.size()));
-    for (char& c : text)
-        if (c == 0) c = ' ';
+    for (char* p = text; (p = static_cast<char*>(std::memchr(p, 0, n - (p - text))));)
+        *p = ' ';
     if (!m_bLanguageChosen) ApplyLanguage(CLanguageChoice::ForPath(path.toStdString()));
-    m_pEditor->Editor().SetWindowTextA(text.c_str());
-    // A file opens at its top, the caret at its start.
-    m_pEditor->Editor().SetSel(0, 0);
-    m_path = path;
-    // A first report: the lines of the first long word of the file.
+    m_pEditor->Editor().SetWindowTextA(text);
+    // A first report: the lines of the first long word near the top.
     std::string word;
-    for (size_t i = 0; i <= text.size(); ++i) {
-        const unsigned char c = i < text.size() ? static_cast<unsigned char>(text[i]) : ' ';
+    for (size_t i = 0; i <= std::min<size_t>(n, 4096); ++i) {
+        const unsigned char c = i < n ? static_cast<unsigned char>(text[i]) : ' ';
         if (std::isalnum(c) || c == '_') {
             word += static_cast<char>(c);
         } else if (word.size() >= 4) {
@@ -115,6 +139,10 @@ bool CDemoWindow::OpenFile(const QString& path) {
             word.clear();
         }
     }
+    if (pMap) file.unmap(pMap);
+    // A file opens at its top, the caret at its start.
+    m_pEditor->Editor().SetSel(0, 0);
+    m_path = path;
     ReportWord(word);
     UpdateTitle();
     UpdateStatus();
@@ -140,10 +168,8 @@ bool CDemoWindow::SaveFile(const QString& path) {
 }
 
 void CDemoWindow::ReportWord(const std::string& word) {
-    VESK::String text;
-    m_pEditor->Editor().GetWindowTextA(text);
     const QString title = m_path.isEmpty() ? QString("Untitled") : QFileInfo(m_path).fileName();
-    m_pReport->ShowMatches(title, text.c_str(), word);
+    m_pReport->ShowMatches(title, m_pEditor->Zone(), word);
 }
 
 QString CDemoWindow::CaretText() {

@@ -1,13 +1,19 @@
 #include "apps/demo/ReportPane.h"
 
 #include <QVBoxLayout>
+#include <string_view>
 #include <vector>
+
+#include "textzone/TextZone.h"
 
 #include "zones/qt/QtHoverWait.h"
 
 namespace {
 
 constexpr int kMaxMatches = 50;
+// A report looks at the top of a large text only, so that opening one
+// stays quick.
+constexpr int kMaxLines = 10000;
 
 }  // namespace
 
@@ -44,26 +50,22 @@ void CReportPane::CReportZone::OpenHyperlinks(POINT, int, int, int, int, char co
         m_onOpen(static_cast<int>(ids.front()), static_cast<int>(data.front()));
 }
 
-void CReportPane::ShowMatches(const QString& title, const std::string& text,
-                              const std::string& word) {
+void CReportPane::ShowMatches(const QString& title, CTextZone& source, const std::string& word) {
     struct Match {
         int nLine;
         int nChar;
         std::string line;
     };
     std::vector<Match> matches;
-    int nLine = 0;
-    size_t from = 0;
-    while (from <= text.size() && static_cast<int>(matches.size()) < kMaxMatches) {
-        size_t end = text.find_first_of("\r\n", from);
-        if (end == std::string::npos) end = text.size();
-        std::string line = text.substr(from, end - from);
-        const size_t at = word.empty() ? std::string::npos : line.find(word);
-        if (at != std::string::npos)
-            matches.push_back(Match{nLine, static_cast<int>(at), line});
-        if (end == text.size()) break;
-        from = end + ((text[end] == '\r' && end + 1 < text.size() && text[end + 1] == '\n') ? 2 : 1);
-        ++nLine;
+    for (int nLine = 0; nLine < kMaxLines && static_cast<int>(matches.size()) < kMaxMatches;
+         ++nLine) {
+        CStringEx* pLine = source.GetLine(nLine);
+        if (!pLine) break;
+        const std::string_view text(pLine->c_str(),
+                                    static_cast<size_t>(pLine->GetLength() - pLine->IsEnded()));
+        const size_t at = word.empty() ? std::string_view::npos : text.find(word);
+        if (at != std::string_view::npos)
+            matches.push_back(Match{nLine, static_cast<int>(at), std::string(text)});
     }
 
     std::string report = title.toStdString() + ": " + std::to_string(matches.size()) +

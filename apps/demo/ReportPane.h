@@ -12,6 +12,7 @@
 #include <string>
 
 #include "editor/qt/QtEditorWidget.h"
+#include "textzone/TextZone.h"
 #include "zones/TextZoneReadOnly.h"
 
 class CReportPane : public QWidget {
@@ -21,9 +22,9 @@ public:
 
     // Called with the line and column of a link that was clicked.
     void SetOpenHandler(std::function<void(int nLine, int nChar)> handler);
-    // Lists the lines of a text that hold a word (the first few of them),
-    // each a link to where the word stands.
-    void ShowMatches(const QString& title, const std::string& text, const std::string& word);
+    // Lists the lines of a zone's text that hold a word (the first few of
+    // them, in its first lines), each a link to where the word stands.
+    void ShowMatches(const QString& title, CTextZone& source, const std::string& word);
 
     CTextZoneReadOnly& Zone() { return *m_pZone; }
     CQtEditorWidget& View() { return *m_pView; }
