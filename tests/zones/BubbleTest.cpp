@@ -175,7 +175,6 @@ TEST_F(BubbleTest, FocusLossAndTheLeftButtonCloseIt) {
     EXPECT_EQ(m_zone.m_pBubble, nullptr);
     Rest(At(0, 7));
     ASSERT_NE(m_zone.m_pBubble, nullptr);
-    CWnd::FromHandle(nullptr);
     m_platform.SetFocus(nullptr);
     Move(At(0, 8));
     EXPECT_EQ(m_zone.m_pBubble, nullptr);

@@ -101,3 +101,39 @@ TEST_F(DrawTest, PastelPalesTheLinesTextColour) {
                   "ab:#%06X/#FFFFFF cd:#%06X/#FFFFFF ef:#%06X/#FFFFFF", pale, pale, pale);
     EXPECT_EQ(Row(0), expected);
 }
+
+TEST_F(DrawTest, FontsRefittedToTallerLinesAndTheStripUnderShorterText) {
+    m_zone.SetText("plain link");
+    m_zone.SetHyperlink(0, 0, 6, 10, 0, "", 1, 0, 0);
+    // Lines taller than the bold face: both fonts are made at the line
+    // height, the normal one too, which is then the zone's own.
+    m_zone.m_nLineHeight = 20;
+    m_zone.BuildHilighFont(1);
+    LOGFONTA lf{};
+    GetObjectA(m_zone.m_hHilightFont, sizeof lf, &lf);
+    EXPECT_EQ(lf.lfHeight, 19);
+    EXPECT_EQ(lf.lfWeight, 700);
+    EXPECT_EQ(lf.lfUnderline, 1);
+    EXPECT_EQ(m_zone.m_nNormalHeight, 19);
+    EXPECT_EQ(m_zone.m_nHilightHeight, 20);  // an underline counts one more
+    EXPECT_EQ(m_zone.m_nLinkHeight, 20);
+    ASSERT_NE(m_zone.GetFont(), m_font.GetSafeHandle());
+
+    // Plain text, a pixel shorter than the line, leaves a strip filled
+    // with the background under it; the link is as tall as the line.
+    Row(0);
+    int strips = 0;
+    for (const DrawRecord& r : CHeadlessPlatform::Peer(&m_wnd)->GetDisplayList()) {
+        if (r.kind != DrawRecord::Fill || r.rc.top != 19 || r.rc.bottom != 20) continue;
+        ++strips;
+        EXPECT_EQ(r.crFill, kBack);
+        EXPECT_EQ(r.rc.left, 0);
+        EXPECT_EQ(r.rc.right, 54);  // "plain " at 9 pixels a byte in the 19-pixel face
+    }
+    EXPECT_EQ(strips, 1);
+
+    // The host's font back: the refitted one goes, the host's stays.
+    m_zone.SetFont(m_font);
+    EXPECT_EQ(m_zone.GetFont(), m_font.GetSafeHandle());
+    EXPECT_EQ(m_zone.m_nNormalHeight, -1);
+}

@@ -35,6 +35,7 @@ TEST_F(LinkTest, EdgesOfARange) {
     EXPECT_EQ(HitAt(m_zone, At(0, 2), true).found, 0);
     EXPECT_EQ(HitAt(m_zone, At(0, 9), true).found, 0);  // the end is outside
     EXPECT_EQ(HitAt(m_zone, At(1, 3), true).found, 0);
+    EXPECT_EQ(HitAt(m_zone, At(9, 3), true).found, 0);  // below the text
     for (int c : {3, 8}) {
         Hit h = HitAt(m_zone, At(0, c), true);
         EXPECT_EQ(h.found, 1) << c;

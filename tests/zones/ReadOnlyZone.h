@@ -17,6 +17,7 @@
 
 class CTestReadOnlyZone : public CTextZoneReadOnly {
 public:
+    using CTextZoneReadOnly::BuildHilighFont;
     using CTextZoneReadOnly::DefineColors;
     using CTextZoneReadOnly::GetReadOnlyLine;
 
