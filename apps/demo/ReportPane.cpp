@@ -85,15 +85,16 @@ void CReportPane::ShowMatches(const QString& title, CTextZone& source, const std
     // The title stands out in a colour of its own and explains the pane.
     m_pZone->SetLineColor(0, RGB(0, 0, 160));
     if (auto* pTitle = dynamic_cast<CStringExReadOnly*>(m_pZone->GetLine(0)))
-        pTitle->SetHelp("Results of a search in the open file.\r\n"
-                        "Links open the line in the editor above.");
+        pTitle->SetHelp(
+            "Results of a search in the open file.\r\n"
+            "Links open the line in the editor above.");
     for (size_t i = 0; i < matches.size(); ++i) {
         const Match& m = matches[i];
         const long nRow = static_cast<long>(i) + 1;
         const std::string label = "line " + std::to_string(m.nLine + 1);
         const int nLabelEnd = 2 + static_cast<int>(label.size());
-        const std::string tip = "Open line " + std::to_string(m.nLine + 1) + ", column " +
-                                std::to_string(m.nChar + 1);
+        const std::string tip =
+            "Open line " + std::to_string(m.nLine + 1) + ", column " + std::to_string(m.nChar + 1);
         m_pZone->SetHyperlink(nRow, nRow, 2, nLabelEnd, 0, tip.c_str(), m.nLine,
                               static_cast<unsigned long>(m.nChar), 1);
         const int nWord = nLabelEnd + 2 + m.nChar;

@@ -215,9 +215,8 @@ void CTextZoneReadOnly::SetHilighted(long a, long b, int c, int d, short nMode) 
     });
 }
 
-void CTextZoneReadOnly::SetHyperlink(long a, long b, int c, int d, short nMode,
-                                     char const* pText, std::int64_t nId, unsigned long nData,
-                                     unsigned int nKind) {
+void CTextZoneReadOnly::SetHyperlink(long a, long b, int c, int d, short nMode, char const* pText,
+                                     std::int64_t nId, unsigned long nData, unsigned int nKind) {
     ForEachMarkedLine(a, b, c, d, nMode, [&](CStringExReadOnly* pLine, int from, int to) {
         pLine->AddHyperlink(from, to, pText, nId, nData, nKind);
     });

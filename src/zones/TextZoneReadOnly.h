@@ -62,9 +62,9 @@ public:
     // With pIds, all links under the point are collected and the positions
     // and texts are those of the last.
     virtual int IsOnHyperlink(POINT* pPoint, int* pLine1, int* pLine2, int* pChar1, int* pChar2,
-                              char* pText, long nTextMax, unsigned short nEolMode,
-                              char* pLinkText, long nLinkTextMax, LinkIdList* pIds,
-                              LinkDataList* pData, LinkKindList* pKinds);
+                              char* pText, long nTextMax, unsigned short nEolMode, char* pLinkText,
+                              long nLinkTextMax, LinkIdList* pIds, LinkDataList* pData,
+                              LinkKindList* pKinds);
     // Activates links: the host's hook; here it does nothing.
     virtual void OpenHyperlinks(POINT point, int nLine1, int nLine2, int nChar1, int nChar2,
                                 char const* pText, LinkIdList const& ids, LinkDataList const& data,

@@ -14,11 +14,16 @@ constexpr COLORREF kLinkMarks = RUN_LINK | RUN_BACK_YELLOW | RUN_BACK_PINK;
 
 COLORREF LinkMarks(unsigned int nKind) {
     switch (nKind) {
-        case 1: return RUN_LINK | RUN_BACK_YELLOW;
-        case 2: return RUN_LINK | RUN_BACK_PINK;
-        case 3: return RUN_BACK_YELLOW;
-        case 4: return RUN_BACK_PINK;
-        default: return RUN_LINK;
+        case 1:
+            return RUN_LINK | RUN_BACK_YELLOW;
+        case 2:
+            return RUN_LINK | RUN_BACK_PINK;
+        case 3:
+            return RUN_BACK_YELLOW;
+        case 4:
+            return RUN_BACK_PINK;
+        default:
+            return RUN_LINK;
     }
 }
 
@@ -46,8 +51,8 @@ CColorDef* CTextZoneReadOnly::InsertRun(size_t nAt, int nPos, COLORREF crWord) {
     }
     def->nPos = nPos;
     def->crColor = crWord;
-    auto it = m_colorDefs.insert(m_colorDefs.begin() + static_cast<std::ptrdiff_t>(nAt),
-                                 std::move(def));
+    auto it =
+        m_colorDefs.insert(m_colorDefs.begin() + static_cast<std::ptrdiff_t>(nAt), std::move(def));
     return it->get();
 }
 
@@ -110,8 +115,8 @@ void CTextZoneReadOnly::DefineColors(int nLine, CStringEx* pText) {
     }
     for (size_t i = 0; i < pLine->m_linkBounds.size(); ++i) {
         const std::uint32_t range = pLine->m_linkBounds[i];
-        MergeRange(L::Start(range), L::End(range), LinkMarks(pLine->m_linkKinds[i]), nTextEnd,
-                   true, false);
+        MergeRange(L::Start(range), L::End(range), LinkMarks(pLine->m_linkKinds[i]), nTextEnd, true,
+                   false);
     }
     if ((pLine->m_nPastelStart || pLine->m_nPastelEnd) && !pLine->m_crLineColor)
         MergeRange(pLine->m_nPastelStart, pLine->m_nPastelEnd, RUN_PASTEL, nTextEnd, false, true);

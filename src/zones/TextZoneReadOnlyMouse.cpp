@@ -94,8 +94,8 @@ void CTextZoneReadOnly::OpenHyperlinks(POINT, int, int, int, int, char const*, L
 void CTextZoneReadOnly::HandleLButtonDown(UINT nFlags, POINT* pPoint) {
     CTextZoneColor::HandleLButtonDown(nFlags, pPoint);
     int line = 0, column = 0;
-    if (IsOnHyperlink(pPoint, &line, nullptr, &column, nullptr, nullptr, 0, 0, nullptr, 0,
-                      nullptr, nullptr, nullptr)) {
+    if (IsOnHyperlink(pPoint, &line, nullptr, &column, nullptr, nullptr, 0, 0, nullptr, 0, nullptr,
+                      nullptr, nullptr)) {
         m_bLinkPressed = 1;
         m_nPressLine = line;
         m_nPressChar = column;
@@ -190,7 +190,8 @@ bool CTextZoneReadOnly::PollHoverWait(CTextZoneReadOnly* pZone, int nLine, DWORD
             PeekMessageA(&msg, pWnd, WM_TIMER, WM_TIMER, PM_REMOVE);
             pWnd->SendMessage(msg.message, msg.wParam, msg.lParam);
         } else if (msg.message == WM_MOUSEMOVE) {
-            POINT pt{static_cast<short>(LOWORD(msg.lParam)), static_cast<short>(HIWORD(msg.lParam))};
+            POINT pt{static_cast<short>(LOWORD(msg.lParam)),
+                     static_cast<short>(HIWORD(msg.lParam))};
             if (pZone->GetLineFromPoint(&pt) != nLine) return false;
         } else if (msg.message != WM_NCHITTEST && (msg.message < 0x360 || msg.message > 0x37F)) {
             return false;
@@ -205,8 +206,7 @@ void CTextZoneReadOnly::OpenBubble(int nLine, POINT* pPoint, char const* pText) 
     if (pPoint->x == m_ptBubble.x && pPoint->y == m_ptBubble.y) return;
     m_pClosedBubble.reset();
     // One pixel under the line, lines taken to be of one height.
-    POINT pos{pPoint->x,
-              GetLineHeight(0) * (nLine + 1) + m_rcText.top - GetVScrollOffset() + 1};
+    POINT pos{pPoint->x, GetLineHeight(0) * (nLine + 1) + m_rcText.top - GetVScrollOffset() + 1};
     m_pBubble = new CTooltipBubble(pText, GetWindow(), this);
     if (m_pBubble->CreateBubble(&pos)) {
         m_nBubbleLine = nLine;

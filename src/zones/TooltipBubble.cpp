@@ -42,8 +42,7 @@ BOOL CTooltipBubble::DestroyWindow() {
 }
 
 int CTooltipBubble::Extent(CDC* pDC, const char* p, int n) const {
-    return static_cast<int>(
-        LOWORD(GetTabbedTextExtentA(pDC, p, n, 1, &s_nTabStop)));
+    return static_cast<int>(LOWORD(GetTabbedTextExtentA(pDC, p, n, 1, &s_nTabStop)));
 }
 
 void CTooltipBubble::WrapLine(CDC* pDC, const VESK::String& line, int nLimit) {
@@ -195,8 +194,7 @@ bool CTooltipBubble::ForwardMouse(UINT message, WPARAM wParam, LPARAM lParam, bo
     RECT client;
     m_pParent->GetClientRect(&client);
     const bool bInside = PtInRect(&client, pt);
-    if (bInside || bAlways)
-        m_pParent->PostMessage(message, wParam, MAKELPARAM(pt.x, pt.y));
+    if (bInside || bAlways) m_pParent->PostMessage(message, wParam, MAKELPARAM(pt.x, pt.y));
     return bInside;
 }
 

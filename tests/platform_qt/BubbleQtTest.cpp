@@ -77,7 +77,8 @@ TEST_F(BubbleQtTest, AKeyDuringTheWaitKeepsItAway) {
     // Qt sends no move to where the mouse already is: it starts elsewhere.
     QTest::mouseMove(Widget(&m_editor), QPoint(30, m_zone.GetLineHeight(0) * 3 / 2));
     QObject context;  // the key goes with the test if the wait never ran
-    QTimer::singleShot(100, &context, [this] { QTest::keyClick(Widget(&m_editor), Qt::Key_Right); });
+    QTimer::singleShot(100, &context,
+                       [this] { QTest::keyClick(Widget(&m_editor), Qt::Key_Right); });
     QTest::mouseMove(Widget(&m_editor), OnLink());
     EXPECT_EQ(m_zone.m_pBubble, nullptr);
     Pump();

@@ -83,8 +83,9 @@ TEST_F(DrawTest, SelectionOverMarks) {
     m_zone.SetSelection(0, 0, 0, 5, 0, 0);
     // The selected part of a link stays underlined in the selection's
     // colours; its yellow shows only outside the selection.
-    EXPECT_EQ(Row(0), "ab :#FFFFFF/#800000 li:#FFFFFF/#800000!u nk:#000042/#80FFFF!u"
-                      "  cd:#000042/#FFFFFF");
+    EXPECT_EQ(Row(0),
+              "ab :#FFFFFF/#800000 li:#FFFFFF/#800000!u nk:#000042/#80FFFF!u"
+              "  cd:#000042/#FFFFFF");
     // In a box selection the marks give way.
     m_zone.SetSelectionMode(2);
     m_zone.SetSelection(0, 0, 0, 2, 2, 0);
@@ -97,8 +98,8 @@ TEST_F(DrawTest, PastelPalesTheLinesTextColour) {
     m_zone.SetPastel(0, 0, 2, 4, 0);
     const COLORREF pale = CTextZoneReadOnly::Pastel(kText);
     char expected[128];
-    std::snprintf(expected, sizeof expected,
-                  "ab:#%06X/#FFFFFF cd:#%06X/#FFFFFF ef:#%06X/#FFFFFF", pale, pale, pale);
+    std::snprintf(expected, sizeof expected, "ab:#%06X/#FFFFFF cd:#%06X/#FFFFFF ef:#%06X/#FFFFFF",
+                  pale, pale, pale);
     EXPECT_EQ(Row(0), expected);
 }
 

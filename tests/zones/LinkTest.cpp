@@ -20,10 +20,9 @@ struct Hit {
 
 Hit HitAt(CTextZoneReadOnly& zone, POINT pt, bool bAll) {
     Hit h;
-    h.found = zone.IsOnHyperlink(&pt, &h.line1, &h.line2, &h.char1, &h.char2, h.text,
-                                 sizeof h.text, 2, h.link, sizeof h.link,
-                                 bAll ? &h.ids : nullptr, bAll ? &h.data : nullptr,
-                                 bAll ? &h.kinds : nullptr);
+    h.found = zone.IsOnHyperlink(&pt, &h.line1, &h.line2, &h.char1, &h.char2, h.text, sizeof h.text,
+                                 2, h.link, sizeof h.link, bAll ? &h.ids : nullptr,
+                                 bAll ? &h.data : nullptr, bAll ? &h.kinds : nullptr);
     return h;
 }
 
@@ -51,8 +50,8 @@ TEST_F(LinkTest, EdgesOfARange) {
     }
     // Every out-pointer may be null; a short link buffer is cut.
     POINT pt = At(0, 4);
-    EXPECT_EQ(m_zone.IsOnHyperlink(&pt, nullptr, nullptr, nullptr, nullptr, nullptr, 0, 0,
-                                   nullptr, 0, nullptr, nullptr, nullptr),
+    EXPECT_EQ(m_zone.IsOnHyperlink(&pt, nullptr, nullptr, nullptr, nullptr, nullptr, 0, 0, nullptr,
+                                   0, nullptr, nullptr, nullptr),
               1);
     char small[5];
     m_zone.IsOnHyperlink(&pt, nullptr, nullptr, nullptr, nullptr, nullptr, 0, 0, small,

@@ -13,11 +13,20 @@ LRESULT CZoneWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
             case WM_TIMER:
                 if (m_pPlatform) m_pPlatform->AdvanceTickCount(100);
                 break;
-            case WM_LBUTTONDOWN: m_pZone->HandleLButtonDown(flags, &pt); break;
-            case WM_LBUTTONUP: m_pZone->HandleLButtonUp(flags, &pt); break;
-            case WM_MOUSEMOVE: m_pZone->HandleMouseMove(flags, &pt); break;
-            case WM_KEYDOWN: m_pZone->HandleKeyDown(flags, 1, 0); break;
-            default: break;
+            case WM_LBUTTONDOWN:
+                m_pZone->HandleLButtonDown(flags, &pt);
+                break;
+            case WM_LBUTTONUP:
+                m_pZone->HandleLButtonUp(flags, &pt);
+                break;
+            case WM_MOUSEMOVE:
+                m_pZone->HandleMouseMove(flags, &pt);
+                break;
+            case WM_KEYDOWN:
+                m_pZone->HandleKeyDown(flags, 1, 0);
+                break;
+            default:
+                break;
         }
     }
     return CRecordingWnd::WindowProc(message, wParam, lParam);
