@@ -97,7 +97,10 @@ void CCompletionTooltip::SetActiveParm(int nParm) {
     const int border = GetSystemMetrics(SM_CYBORDER);
     int cx = 6 * border;
     int cy = 0;
-    if (CDC* pDC = GetDC()) {
+    // Measured on the editor's context: the tooltip's own has no surface
+    // while its size is still 0.
+    CWnd* pMeasure = m_pParent ? m_pParent : this;
+    if (CDC* pDC = pMeasure->GetDC()) {
         const VESK::String* pieces[3] = {&m_strBefore, &m_strActive, &m_strAfter};
         for (int i = 0; i < 3; ++i) {
             HFONT hOld = pDC->SelectObject(i == 1 ? &m_boldFont : &m_font);
@@ -106,7 +109,7 @@ void CCompletionTooltip::SetActiveParm(int nParm) {
             cx += size.cx;
             cy = std::max<int>(cy, size.cy);
         }
-        ReleaseDC(pDC);
+        pMeasure->ReleaseDC(pDC);
     }
     cy += 6 * border;
     RECT rc;
