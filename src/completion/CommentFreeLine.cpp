@@ -16,7 +16,8 @@ constexpr char kString = 13;
 
 int SkipBlanks(const std::string& text, int n) {
     const int size = static_cast<int>(text.size());
-    while (n < size && (text[static_cast<size_t>(n)] == ' ' || text[static_cast<size_t>(n)] == '\t'))
+    while (n < size &&
+           (text[static_cast<size_t>(n)] == ' ' || text[static_cast<size_t>(n)] == '\t'))
         ++n;
     return n;
 }

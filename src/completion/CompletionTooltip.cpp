@@ -56,13 +56,15 @@ BOOL CCompletionTooltip::CreateAt(POINT ptClient) {
         }
         m_pParent->ClientToScreen(&ptClient);
     }
+    // Each tooltip makes its two fonts: only one is open at a time, and
+    // nothing made once for the process outlives the platform it came from.
     MakeFont(&m_font, 300, nLogPixelsY);
     MakeFont(&m_boldFont, FW_BOLD, nLogPixelsY);
     // A top-level window: its place is in screen coordinates, and the
     // editor is only remembered, so that it can be told of a cancel.
     const RECT rc{ptClient.x, ptClient.y, ptClient.x, ptClient.y};
-    if (!CreateEx(WS_EX_WINDOWEDGE | WS_EX_TOOLWINDOW | WS_EX_TOPMOST, kClassName, "", WS_POPUP,
-                  rc, nullptr, 0))
+    if (!CreateEx(WS_EX_WINDOWEDGE | WS_EX_TOOLWINDOW | WS_EX_TOPMOST, kClassName, "", WS_POPUP, rc,
+                  nullptr, 0))
         return FALSE;
     g_pOpenTooltip = this;
     return TRUE;

@@ -58,7 +58,9 @@ void CTextZoneColor::AddParmCompletionSet(int nKind, char const* pName, char con
     pSet->strTitle = pTitle;
     pSet->strParms = pParms;
     pSet->strNames = pNames;
-    if (*pParms) pSet->nParmCount = 1 + static_cast<int>(std::count(pParms, pParms + std::strlen(pParms), ','));
+    if (*pParms)
+        pSet->nParmCount =
+            1 + static_cast<int>(std::count(pParms, pParms + std::strlen(pParms), ','));
     {
         std::lock_guard<std::mutex> lock(m_parmLock);
         m_parmSets.push_back(pSet);
@@ -78,7 +80,13 @@ void CTextZoneColor::AddParmCompletionSet(int nKind, char const* pName, char con
 
 LONG CTextZoneColor::HandleUserMessage(std::uint64_t, std::int64_t lParam) {
     auto* pSet = reinterpret_cast<CParmCompSet*>(lParam);
-    if (!pSet) return 0;
+    {
+        // Only a set of this zone: a message left in the queue for a zone
+        // the window no longer shows carries nothing to read.
+        std::lock_guard<std::mutex> lock(m_parmLock);
+        if (!pSet || std::find(m_parmSets.begin(), m_parmSets.end(), pSet) == m_parmSets.end())
+            return 0;
+    }
     bool bTaken = false;
     for (COpenParmComp* pComp : m_openParmComps) {
         if (!pComp->pSet && pComp->nKind == pSet->nKind && pComp->strName == pSet->strName) {
@@ -89,7 +97,8 @@ LONG CTextZoneColor::HandleUserMessage(std::uint64_t, std::int64_t lParam) {
     if (!bTaken) return 0;
     // The innermost call shows its own parameters as soon as they are
     // known, even where the tooltip of an outer call is up meanwhile.
-    if (m_pParmTooltip && m_openParmComps.back()->pSet == pSet) OpenParmTooltip(m_openParmComps.back());
+    if (m_pParmTooltip && m_openParmComps.back()->pSet == pSet)
+        OpenParmTooltip(m_openParmComps.back());
     UpdateParmTooltipStatus();
     // Types the first name only if the user has not moved on while the host
     // was answering.
@@ -154,8 +163,8 @@ void CTextZoneColor::OpenParmTooltip(COpenParmComp* pComp) {
     if (!pComp || !pComp->pSet || !m_pWnd) return;
     const POINT pt = ParmTooltipPlace(pComp);
     const int bNoParens = pComp->pSet->nKind == 0 && m_bProcCallNoParens;
-    auto* pTooltip =
-        new CCompletionTooltip(pComp->pSet->strTitle, pComp->pSet->strParms, bNoParens, m_pWnd, this);
+    auto* pTooltip = new CCompletionTooltip(pComp->pSet->strTitle, pComp->pSet->strParms, bNoParens,
+                                            m_pWnd, this);
     if (!pTooltip->CreateAt(pt)) {
         delete pTooltip;
         return;
@@ -186,7 +195,13 @@ void CTextZoneColor::CloseParmTooltip(int bClearRequests) {
 }
 
 void CTextZoneColor::FreeParmCompletion() {
-    CloseParmTooltip(1);
+    // The window may be gone already: nothing is redrawn here.
+    for (COpenParmComp* pComp : m_openParmComps)
+        delete pComp;
+    m_openParmComps.clear();
+    delete m_pParmTooltip;
+    m_pParmTooltip = nullptr;
+    FreeRetiredTooltip();
     std::lock_guard<std::mutex> lock(m_parmLock);
     for (CParmCompSet* pSet : m_parmSets)
         delete pSet;
@@ -209,9 +224,9 @@ void CTextZoneColor::HandleKeyDownForCompletion(unsigned int nChar, unsigned int
             if (m_pParmTooltip && !m_openParmComps.empty()) {
                 POINT pt = ParmTooltipPlace(m_openParmComps.back());
                 if (m_pWnd) m_pWnd->ClientToScreen(&pt);
-                m_pParmTooltip->SetWindowPos(nullptr, pt.x, pt.y, 0, 0,
-                                             SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE |
-                                                 SWP_NOOWNERZORDER);
+                m_pParmTooltip->SetWindowPos(
+                    nullptr, pt.x, pt.y, 0, 0,
+                    SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
                 if (m_pWnd) m_pWnd->UpdateWindow();
             }
             break;

@@ -16,12 +16,14 @@
 namespace {
 
 bool IsNameChar(unsigned char c) {
-    return std::isalnum(c) || c == '_' || c == '#' || c == '@' || c == '$' || (c >= 128 && c <= 254);
+    return std::isalnum(c) || c == '_' || c == '#' || c == '@' || c == '$' ||
+           (c >= 128 && c <= 254);
 }
 
 bool IsAllDigits(const std::string& s) {
-    return !s.empty() && std::all_of(s.begin(), s.end(),
-                                     [](char c) { return std::isdigit(static_cast<unsigned char>(c)); });
+    return !s.empty() && std::all_of(s.begin(), s.end(), [](char c) {
+        return std::isdigit(static_cast<unsigned char>(c));
+    });
 }
 
 bool IsExec(const std::string& s) {
@@ -59,8 +61,9 @@ std::string NameBefore(const std::string& text, int nEnd, bool bGroup, int* pnSt
         if (k == std::string::npos) return {};
         start = static_cast<int>(k);
     } else {
-        while (start >= 0 && (IsNameChar(static_cast<unsigned char>(text[static_cast<size_t>(start)])) ||
-                              (bGroup && text[static_cast<size_t>(start)] == ';')))
+        while (start >= 0 &&
+               (IsNameChar(static_cast<unsigned char>(text[static_cast<size_t>(start)])) ||
+                (bGroup && text[static_cast<size_t>(start)] == ';')))
             --start;
         ++start;
     }
@@ -90,7 +93,8 @@ void CTextZoneColor::HandleCharForCompletion(unsigned int nChar, unsigned int, u
         const int at = m_nSelStartChar - 1;
         CStringEx free;
         GetCommentAndStringFreeLine(&free, nLine, 0);
-        if (at < 0 || at >= free.GetLength() || free[at] != c) return false;  // in a comment or string
+        if (at < 0 || at >= free.GetLength() || free[at] != c)
+            return false;  // in a comment or string
         GetCommentAndStringFreeLine(&free, nLine, 1);
         const std::string text(free.c_str(), static_cast<size_t>(free.GetLength()));
 
@@ -110,7 +114,8 @@ void CTextZoneColor::HandleCharForCompletion(unsigned int nChar, unsigned int, u
         // A group number: "proc;2", "proc ;2" and "proc ; 2" all name proc;2.
         bool bGroup = false;
         const size_t semi = name.find(';');
-        if (IsAllDigits(name) || (semi != std::string::npos && IsAllDigits(name.substr(semi + 1)))) {
+        if (IsAllDigits(name) ||
+            (semi != std::string::npos && IsAllDigits(name.substr(semi + 1)))) {
             std::string number = semi == std::string::npos ? name : name.substr(semi + 1);
             std::string word = semi == std::string::npos ? std::string() : name.substr(0, semi);
             if (word.empty()) {

@@ -19,7 +19,8 @@ TEST_F(FreeLineTest, StringsAndCommentsAreMaskedColumnForColumn) {
     UseSql();
     m_zone.SetText("select 'a' /* b */ c");
     // The blank behind each closer goes with its part.
-    EXPECT_EQ(Free(0, 0), std::string("select ") + std::string(4, '\r') + std::string(8, '\n') + "c");
+    EXPECT_EQ(Free(0, 0),
+              std::string("select ") + std::string(4, '\r') + std::string(8, '\n') + "c");
     EXPECT_EQ(Free(0, 1), Free(0, 0));
 
     // A -- comment runs to the line's end; a missing line gives nothing.

@@ -16,7 +16,8 @@ protected:
     }
     void KnowP() {
         m_zone.m_onRequest = [this](int nKind, const char* pName) {
-            if (nKind == 0 && std::string(pName) == "p") Answer(0, "p", "@a int,@b int,@c int", "@a,@b,@c");
+            if (nKind == 0 && std::string(pName) == "p")
+                Answer(0, "p", "@a int,@b int,@c int", "@a,@b,@c");
         };
     }
 };
@@ -33,8 +34,8 @@ TEST_F(ParmCallTest, NamesAfterExecAreAskedFor) {
     // "db..owner" included: the host may know them. The blank behind a
     // bracketed name belongs to the name, so only "(" calls it.
     EXPECT_EQ(m_zone.m_requests,
-              (std::vector<std::string>{"0 proc;2", "0 @r", "0 dbo.x", "0 db..owner", "0 db..owner.y",
-                                        "1 [my proc]", "0 q", "0 q;4"}));
+              (std::vector<std::string>{"0 proc;2", "0 @r", "0 dbo.x", "0 db..owner",
+                                        "0 db..owner.y", "1 [my proc]", "0 q", "0 q;4"}));
     // Not calls: a word after another word, a value, a blank in a string.
     m_zone.m_requests.clear();
     Type("\nselect a ");

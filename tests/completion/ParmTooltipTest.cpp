@@ -121,6 +121,22 @@ TEST_F(ParmTooltipTest, BackspaceOverTheBracketEscapeAndFocusCloseIt) {
     EXPECT_TRUE(m_zone.m_openParmComps.empty());
 }
 
+TEST_F(ParmTooltipTest, OnlyItsOwnAnswersReachAZone) {
+    Type("foo(");
+    // Another zone's answer, as a message left over from a zone the window
+    // showed before, is not read.
+    CTextZoneColor other;
+    other.AddParmCompletionSet(1, "foo", "foo", "a", "a");
+    ASSERT_EQ(other.m_parmSets.size(), 1u);
+    m_zone.HandleUserMessage(0, reinterpret_cast<std::int64_t>(other.m_parmSets.front()));
+    EXPECT_EQ(m_zone.m_openParmComps.back()->pSet, nullptr);
+    EXPECT_EQ(Shown(), "");
+    // The zone's own answer to the same question is.
+    Answer(1, "foo", "a");
+    Pump();
+    EXPECT_EQ(Shown(), "foo ( |a| )");
+}
+
 TEST_F(ParmTooltipTest, ModeZeroLeavesTypingAlone) {
     KnowFooAndB();
     m_zone.SetParmCompletionMode(0);

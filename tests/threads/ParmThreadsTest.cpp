@@ -43,7 +43,8 @@ TEST_F(ParmThreadsTest, EightHostThreadsAnswerWhileTheUserTypes) {
 
     ASSERT_EQ(m_zone.m_parmSets.size(), static_cast<size_t>(kThreads * kPerThread));
     for (CParmCompSet* pSet : m_zone.m_parmSets)
-        EXPECT_EQ(m_zone.m_deliveries[reinterpret_cast<std::int64_t>(pSet)], 1) << pSet->strName.c_str();
+        EXPECT_EQ(m_zone.m_deliveries[reinterpret_cast<std::int64_t>(pSet)], 1)
+            << pSet->strName.c_str();
     EXPECT_EQ(m_zone.m_deliveries.size(), m_zone.m_parmSets.size());
     // Every question whose answer came is gone from the list; each routine
     // was asked at most once.
