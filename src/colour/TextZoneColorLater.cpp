@@ -17,26 +17,3 @@ void CTextZoneColor::AddExtraCandidateKeyword(char const*, int) {}
 void CTextZoneColor::CompleteWord(int) {}
 
 void CTextZoneColor::ResetWordCompletion() {}
-
-void CTextZoneColor::SetParmCompletionMode(unsigned int nMode) {
-    m_nParmCompletionMode = nMode;
-}
-
-void CTextZoneColor::AddParmCompletionSet(int, char const*, char const*, char const*, char const*) {
-}
-
-void CTextZoneColor::OnNewParmCompletionRequest(int, char const*) {}
-
-void CTextZoneColor::OpenParmTooltip(COpenParmComp*) {}
-
-void CTextZoneColor::CloseParmTooltip(int) {}
-
-void CTextZoneColor::UpdateParmTooltipStatus() {}
-
-void CTextZoneColor::GetCommentAndStringFreeLine(CStringEx*, int, int) {}
-
-void CTextZoneColor::HandleLButtonDownForCompletion(unsigned int, tagPOINT*) {}
-
-void CTextZoneColor::HandleKeyDownForCompletion(unsigned int, unsigned int, unsigned int) {}
-
-void CTextZoneColor::HandleCharForCompletion(unsigned int, unsigned int, unsigned int) {}
