@@ -38,6 +38,9 @@ constexpr int TZ_MAX_LINE_LENGTH = 65500;       // bytes of text on a line
 constexpr int TZ_MAX_PARAGRAPH_LINE = 0x10000;  // the same with ZS_PARAGRAPH
 constexpr int TZ_MAX_UNDO = 100;
 constexpr int TZ_TO_END = 0x7FFFFFFF;  // a last line meaning "to the end"
+// No character or column of a selection lies beyond the longest line there
+// can be: places further out come from hosts and would only overflow sums.
+constexpr int TZ_MAX_PLACE = TZ_MAX_PARAGRAPH_LINE;
 
 // Text flags of the readers.
 constexpr WORD TF_LF = 1;              // line end LF (the two low bits)

@@ -187,14 +187,19 @@ int CTextZone::GetLineHeight(int nLine) {
 }
 
 int CTextZone::GetLineTopPos(int nLine) {
-    int y = m_rcText.top - GetVScrollOffset();
-    if (!(m_dwStyle & ZS_VARHEIGHT)) return y + GetLineHeight(0) * nLine;
-    return y + GetLinePosition(nLine);
+    // A host may ask for any line: the sum is taken wide and held to int.
+    long long y = static_cast<long long>(m_rcText.top) - GetVScrollOffset();
+    if (!(m_dwStyle & ZS_VARHEIGHT))
+        y += static_cast<long long>(GetLineHeight(0)) * nLine;
+    else
+        y += GetLinePosition(nLine);
+    return static_cast<int>(std::clamp<long long>(y, INT_MIN, INT_MAX));
 }
 
 int CTextZone::GetLineFromPoint(POINT* pt) {
     if (!pt) return 0;
-    int y = std::max(0, static_cast<int>(pt->y - m_rcText.top + GetVScrollOffset()));
+    const long long yWide = static_cast<long long>(pt->y) - m_rcText.top + GetVScrollOffset();
+    int y = static_cast<int>(std::clamp<long long>(yWide, 0, INT_MAX));
     if (!(m_dwStyle & ZS_VARHEIGHT)) {
         int h = GetLineHeight(0);
         return h > 0 ? y / h : 0;

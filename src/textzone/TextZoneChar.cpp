@@ -9,6 +9,7 @@
 #include "textzone/TextZone.h"
 
 using textbytes::PadText;
+using textbytes::TextLength;
 
 void CTextZone::KeySetTypingRoot() {
     // Wrapped lines may move under the typing; only an offset stays true.
@@ -103,8 +104,12 @@ void CTextZone::HandleChar(UINT nChar, UINT, UINT) {
     }
 
     DeleteSelection(0);
+    // A free caret behind a line's end pads the line: the blanks count
+    // against the maximum as much as the typed byte does.
+    CStringEx* pCaretLine = GetLine(m_nSelStartLine);
+    const int padding = pCaretLine ? std::max(0, m_nSelStartChar - TextLength(*pCaretLine)) : 0;
     if (GetLastLineIndex() >= TZ_MAX_LINES ||
-        (m_lMaxLength > 0 && m_nCurrentLength >= m_lMaxLength)) {
+        (m_lMaxLength > 0 && m_nCurrentLength + padding >= m_lMaxLength)) {
         OnTextTooLong();
         EndRegister();
         if (m_pWnd && m_pWnd->GetSafeHwnd()) m_pWnd->UpdateWindow();
@@ -119,11 +124,12 @@ void CTextZone::HandleChar(UINT nChar, UINT, UINT) {
     int last = line;
     if (pLine) {
         const int ch = m_nSelStartChar;
-        PadText(*pLine, ch);
+        const int before = pLine->GetLength();
         // A full line takes nothing more, silently.
-        if (pLine->GetLength() < GetLineLimit()) {
+        if (std::max(before, ch + pLine->IsEnded()) < GetLineLimit()) {
+            PadText(*pLine, ch);
             pLine->InsertChar(ch, c);
-            if (m_lMaxLength > 0) ++m_nCurrentLength;
+            if (m_lMaxLength > 0) m_nCurrentLength += pLine->GetLength() - before;
             m_nSelStartChar = m_nSelEndChar = ch + 1;
             KeyRewrapTyped(line, created, &first, &last);
             RegisterUnit(4);

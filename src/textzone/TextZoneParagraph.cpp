@@ -83,8 +83,10 @@ int CTextZone::ComputeParagraph(int nLine, int* pbChanged) {
         CStringEx* pLine = GetLine(L);
         if (!pLine) break;
         last = L;
-        // A single byte wider than the paragraph stays where it is.
-        const bool fits = width(pLine, pLine->GetVisibleLength()) <= W ||
+        // A single byte wider than the paragraph stays where it is. Every
+        // byte is at least a pixel wide, so W + 1 bytes tell whether a long
+        // line fits: the rest of it need not be measured.
+        const bool fits = width(pLine, std::min(pLine->GetVisibleLength(), W + 1)) <= W ||
                           pLine->GetLength() - pLine->IsEnded() <= 1;
 
         if (pLine->IsEnded() && fits) break;

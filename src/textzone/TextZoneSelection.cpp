@@ -93,8 +93,17 @@ void CTextZone::SetSelection(LONG lStart, LONG lEnd, int nStartChar, int nEndCha
             endLine = after;
             if (wMode != 2) endChar = 0;
         }
-        if (wMode == 2) m_nSelectionMode = 2;
+        if (wMode == 2) {
+            // Where box mode is refused (wrap, a proportional font) the same
+            // places make a stream selection of byte indexes instead.
+            const bool boxAllowed = !(m_dwStyle & ZS_PARAGRAPH) && !IsFontProportionnal();
+            m_nSelectionMode = boxAllowed ? 2 : 1;
+        }
     }
+    // Far-out characters from a host stop at the longest possible line, so
+    // that no later sum of places or pixels overflows.
+    startChar = std::clamp(startChar, 0, TZ_MAX_PLACE);
+    endChar = std::clamp(endChar, 0, TZ_MAX_PLACE);
 
     // The end is raised to the start, never swapped with it.
     if (endLine < startLine) endLine = startLine;

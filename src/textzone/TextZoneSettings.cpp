@@ -125,7 +125,40 @@ void CTextZone::SetStyle(DWORD dwStyle) {
         dwStyle &= ~ZS_FREECARET;
     else if (dwStyle & ZS_FREECARET)
         dwStyle |= ZS_SELTOEDGE;
+    const bool wrapChanged = ((m_dwStyle ^ dwStyle) & ZS_PARAGRAPH) != 0;
     m_dwStyle = dwStyle;
+    if (!wrapChanged || !m_pWnd) return;
+
+    // Undo units hold text offsets under wrap and lines and characters
+    // without it: a history across the switch would be read in the wrong form.
+    FreeAllOperations();
+    LONG lStart = 0, lEnd = 0;
+    GetSelection(&lStart, &lEnd, nullptr, nullptr, 1);
+    if (dwStyle & ZS_PARAGRAPH) {
+        RebuildAllParagraphs();
+    } else {
+        // The soft breaks go: each paragraph becomes one line again, as far
+        // as the line limit lets it.
+        for (int n = 0;; ++n) {
+            CStringEx* pLine = GetLine(n);
+            if (!pLine) break;
+            while (!pLine->IsEnded()) {
+                CStringEx* pNext = GetLine(n + 1);
+                if (!pNext) break;
+                if (pLine->GetLength() + pNext->GetLength() - pNext->IsEnded() > TZ_MAX_LINE_LENGTH) {
+                    pLine->EnsureEnded();
+                    break;
+                }
+                *pLine += *pNext;
+                RemoveLines(n + 1, 1);
+                pLine = GetLine(n);
+            }
+        }
+    }
+    // Columns have no meaning between wrapped lines.
+    SetSelection(lStart, lEnd, 0, 0, 1, 0);
+    RebuildCurrentLength();
+    RedrawTextZone();
 }
 
 DWORD CTextZone::GetStyle() {
