@@ -7,9 +7,41 @@
 #include "ZoneFuzzer.h"
 #include "textzone/TextZone.h"
 
+namespace {
+
+// A text as it can be read in a report: line ends and other control bytes
+// spelled out, and no more than a few hundred bytes of it.
+std::string Shown(const std::string& text) {
+    std::string shown;
+    for (unsigned char c : text.substr(0, 300)) {
+        if (c == '\r') shown += "\\r";
+        else if (c == '\n') shown += "\\n";
+        else if (c == '\t') shown += "\\t";
+        else if (c < 32 || c >= 127) {
+            char hex[8];
+            std::snprintf(hex, sizeof hex, "\\x%02x", c);
+            shown += hex;
+        } else {
+            shown += static_cast<char>(c);
+        }
+    }
+    return text.size() > 300 ? shown + "...(" + std::to_string(text.size()) + " bytes)" : shown;
+}
+
+// Where two texts part, with a little of each from there.
+std::string Difference(const std::string& got, const std::string& expected) {
+    std::size_t i = 0;
+    while (i < got.size() && i < expected.size() && got[i] == expected[i]) ++i;
+    const std::size_t from = i > 20 ? i - 20 : 0;
+    return "at byte " + std::to_string(i) + " of " + std::to_string(got.size()) + "/" +
+           std::to_string(expected.size()) + ": '" + Shown(got.substr(from, 60)) + "', expected '" +
+           Shown(expected.substr(from, 60)) + "'";
+}
+
+}  // namespace
+
 void CZoneFuzzer::Fail(const std::string& what) {
-    // Texts of 70,000 bytes help nobody in a report.
-    const std::string shown = what.size() > 400 ? what.substr(0, 400) + "..." : what;
+    const std::string shown = Shown(what);
     std::fprintf(stderr, "fuzz invariant broken after '%s': %s\n", m_strLastOp.c_str(),
                  shown.c_str());
     std::abort();
@@ -129,15 +161,16 @@ void CZoneFuzzer::CheckHistory() {
     m_strLastOp = "undo and redo all";
     m_zone.SetReadOnly(0);
     const std::string last = Text();
-    for (int i = 0; i < 2 * TZ_MAX_UNDO && m_zone.GetUndoType() != 0; ++i) {
+    int undone = 0;
+    for (; undone < 2 * TZ_MAX_UNDO && m_zone.GetUndoType() != 0; ++undone) {
         m_zone.Undo();
         CheckInvariants();
     }
-    if (m_bBaseValid && Text() != m_strBase)
-        Fail("undo all gives '" + Text() + "', expected '" + m_strBase + "'");
-    for (int i = 0; i < 2 * TZ_MAX_UNDO && m_zone.GetRedoType() != 0; ++i) {
+    if (m_bBaseValid && Text() != m_strBase) Fail("undo all differs " + Difference(Text(), m_strBase));
+    // As many steps forward as went back: the redo list may have held more.
+    for (int i = 0; i < undone; ++i) {
         m_zone.Redo();
         CheckInvariants();
     }
-    if (Text() != last) Fail("redo all gives '" + Text() + "', expected '" + last + "'");
+    if (Text() != last) Fail("redo all differs " + Difference(Text(), last));
 }

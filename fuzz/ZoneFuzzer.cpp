@@ -187,6 +187,9 @@ void CZoneFuzzer::StepText(CByteReader& in, int nOp) {
             m_editor.SendMessage(EM_SETSEL, static_cast<WPARAM>(from), to);
             std::string text = in.Text(8);
             m_editor.SendMessage(EM_REPLACESEL, 0, reinterpret_cast<LPARAM>(text.c_str()));
+            // A host's replacement is no step of the history, which from here
+            // on may not lead back to where it started.
+            m_bBaseValid = false;
             break;
         }
         default: {

@@ -220,6 +220,9 @@ public:
     virtual bool IsOleDropAllowed(UINT nFlags, POINT* pt);
 
     // Plain members.
+    // Whether undo records places as text offsets: with wrapped paragraphs
+    // line positions shift on every rewrap. Box mode never meets wrap.
+    bool UndoByOffsets() const { return (m_dwStyle & ZS_PARAGRAPH) && m_nSelectionMode != 2; }
     void CollapseCurrentSel();
     void ExpandCurrentSel();
     void GetTextCRCValues(int* pSize, int* pHash);

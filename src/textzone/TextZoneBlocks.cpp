@@ -93,6 +93,8 @@ void CTextZone::BeginEditBlockInput() {
 }
 
 int CTextZone::AddEditBlockInput(int nLine, int nCount) {
+    // Only a block on a line of the text is taken, before any sum is made.
+    if (nLine < 0 || !GetLine(nLine)) return 0;
     if (nCount < 0) nCount = GetLineCount() - nLine;
     auto pos = m_inputBlocks.begin();
     for (; pos != m_inputBlocks.end() && (*pos)->m_nFirstLine <= nLine; ++pos) {
@@ -102,7 +104,6 @@ int CTextZone::AddEditBlockInput(int nLine, int nCount) {
             return 1;
         }
     }
-    if (nLine < 0 || !GetLine(nLine)) return 0;
     auto pNew = std::make_unique<CEditBlk>(nullptr);
     pNew->m_nFirstLine = nLine;
     pNew->m_nLineCount = nCount;

@@ -39,6 +39,9 @@ int CTextZone::BoxInsertText(const char* pszText, int nColumn, int bHadSelection
     const int spaceWidth = std::max(1, GetTextWidth(pDC, " ", 1) - GetTextWidth(pDC, "", 0));
     CStringEx* pFirst = GetLine(startLine);
     if (!pFirst) {
+        // The text goes on a line of its own, not onto an unended last line.
+        if (CStringEx* pAbove = startLine > 0 ? GetLine(startLine - 1) : nullptr)
+            pAbove->EnsureEnded();
         pFirst = InsertLine(startLine);
         if (!pFirst) {
             ReleaseStandardDC(pDC);

@@ -13,7 +13,7 @@ using textbytes::TextLength;
 
 void CTextZone::KeySetTypingRoot() {
     // Wrapped lines may move under the typing; only an offset stays true.
-    if ((m_dwStyle & ZS_PARAGRAPH) && m_nSelectionMode == 1) {
+    if (UndoByOffsets()) {
         GetSelection(&m_lSelRootOffset, nullptr, nullptr, nullptr, 1);
     } else {
         m_nSelRootLine = m_nSelStartLine;
@@ -108,8 +108,9 @@ void CTextZone::HandleChar(UINT nChar, UINT, UINT) {
     // against the maximum as much as the typed byte does.
     CStringEx* pCaretLine = GetLine(m_nSelStartLine);
     const int padding = pCaretLine ? std::max(0, m_nSelStartChar - TextLength(*pCaretLine)) : 0;
-    if (GetLastLineIndex() >= TZ_MAX_LINES ||
-        (m_lMaxLength > 0 && m_nCurrentLength + padding >= m_lMaxLength)) {
+    // A replay of the history puts back what was there, limits or not.
+    if (!m_bUndoing && (GetLastLineIndex() >= TZ_MAX_LINES ||
+                        (m_lMaxLength > 0 && m_nCurrentLength + padding >= m_lMaxLength))) {
         OnTextTooLong();
         EndRegister();
         if (m_pWnd && m_pWnd->GetSafeHwnd()) m_pWnd->UpdateWindow();
@@ -117,6 +118,8 @@ void CTextZone::HandleChar(UINT nChar, UINT, UINT) {
     }
     HideCaret();
     KeySetTypingRoot();
+    // Undo takes the padding out together with the byte.
+    if (padding > 0 && !UndoByOffsets()) m_nSelRootChar -= padding;
     int created = 0;
     CStringEx* pLine = KeyLineForTyping(&created);
     const int line = m_nSelStartLine;
@@ -126,16 +129,20 @@ void CTextZone::HandleChar(UINT nChar, UINT, UINT) {
         const int ch = m_nSelStartChar;
         const int before = pLine->GetLength();
         // A full line takes nothing more, silently.
-        if (std::max(before, ch + pLine->IsEnded()) < GetLineLimit()) {
+        if (m_bUndoing || std::max(before, ch + pLine->IsEnded()) < GetLineLimit()) {
             PadText(*pLine, ch);
             pLine->InsertChar(ch, c);
             if (m_lMaxLength > 0) m_nCurrentLength += pLine->GetLength() - before;
+            // In line mode the old selection's end is still elsewhere.
+            m_nSelEndLine = line;
             m_nSelStartChar = m_nSelEndChar = ch + 1;
             KeyRewrapTyped(line, created, &first, &last);
             RegisterUnit(4);
         }
     }
     EndRegister();
+    // A recount: a new unended last line adds the line end the length counts.
+    RebuildCurrentLength();
     UpdateVScrollBar();
     UpdateHScrollBar(first, last);
     RedrawLines(first, last, 1);

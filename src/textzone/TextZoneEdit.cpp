@@ -71,10 +71,16 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
         m_nSelEndLine = m_nSelStartLine + CountLineEnds(pszText) -
                         (lastByte == '\r' || lastByte == '\n' ? 1 : 0);
         m_nSelStartChar = m_nSelEndChar = column;
+        // Behind an unended last line the text goes on new lines and that
+        // line gets its end: the copy for undo takes it in too.
+        const int startLine = m_nSelStartLine;
+        CStringEx* pAbove = startLine > 0 && !GetLine(startLine) ? GetLine(startLine - 1) : nullptr;
+        if (pAbove && !pAbove->IsEnded()) --m_nSelStartLine;
         RegisterUnit(7);
+        m_nSelStartLine = startLine;
         m_nSelStartChar = m_nSelEndChar = startChar;
         m_nSelEndLine = endLine;
-    } else if (stream && paragraphs) {
+    } else if (UndoByOffsets()) {
         GetSelection(&m_lSelRootOffset, nullptr, nullptr, nullptr, 1);
     } else {
         m_nSelRootLine = m_nSelStartLine;
@@ -226,8 +232,10 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
             if (box) m_nSelEndChar = ComputeBlockUnit(m_nSelEndLine, m_nSelEndChar);
         }
     }
-    if (!box) {
+    if (stream) {
         RegisterUnit(5);
+    } else if (!box) {
+        // Line mode inserted nothing.
     } else if (m_pCurrentOperation) {
         // The unit registered before the change learns where the text ended.
         CUndoOperation& op = *m_pCurrentOperation;
@@ -251,14 +259,14 @@ void CTextZone::DeleteSelection(int bUpdate) {
     if (!TestSelection()) return;
     const bool box = m_nSelectionMode == 2;
     if (box && m_nSelStartChar == m_nSelEndChar) return;
-    RegisterUnit(box ? 6 : 1);
+    // Line mode removes nothing, so there is nothing to record either.
+    if (m_nSelectionMode != 0) RegisterUnit(box ? 6 : 1);
     HideCaret();
 
     int first = 0;
     int last = 0;
     if (m_nSelectionMode == 1) {
         const bool paragraphs = (m_dwStyle & ZS_PARAGRAPH) != 0;
-        LONG selLength = GetSelectedTextLength(0);
         int startLine = m_nSelStartLine;
         int startChar = m_nSelStartChar;
         int endLine = m_nSelEndLine;
@@ -336,7 +344,9 @@ void CTextZone::DeleteSelection(int bUpdate) {
 
         // The paragraph run keeps the start in step with any rewrapping.
         SetSelection(m_nSelStartLine, m_nSelStartLine, m_nSelStartChar, m_nSelStartChar, 0, 0);
-        if (m_lMaxLength > 0) m_nCurrentLength -= selLength;
+        // A recount, not a subtraction: the length counts a line end behind
+        // an unended last line, which a deletion can make or take away.
+        RebuildCurrentLength();
     } else if (box) {
         first = m_nSelStartLine;
         last = m_nSelEndLine;

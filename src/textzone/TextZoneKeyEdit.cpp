@@ -1,6 +1,7 @@
 // The editing keys: Backspace and Delete, Enter, and Tab with the indenting
 // and outdenting of blocks of lines.
 #include <algorithm>
+#include <climits>
 #include <string>
 
 #include "host/MessageBeep.h"
@@ -20,12 +21,15 @@ void AddLength(CTextZone& zone, int nCount) {
     if (zone.m_lMaxLength > 0) zone.m_nCurrentLength += nCount;
 }
 
+// The limits hold for the user's edits only: a replay of the history puts
+// back what was there, and must never silently leave a byte out.
 bool LengthReached(const CTextZone& zone) {
-    return zone.m_lMaxLength > 0 && zone.m_nCurrentLength >= zone.m_lMaxLength;
+    return !zone.m_bUndoing && zone.m_lMaxLength > 0 && zone.m_nCurrentLength >= zone.m_lMaxLength;
 }
 
 bool WouldPassLength(const CTextZone& zone, int nMore) {
-    return zone.m_lMaxLength > 0 && zone.m_nCurrentLength + nMore > zone.m_lMaxLength;
+    return !zone.m_bUndoing && zone.m_lMaxLength > 0 &&
+           zone.m_nCurrentLength + nMore > zone.m_lMaxLength;
 }
 
 void UpdateWnd(CTextZone& zone) {
@@ -410,8 +414,13 @@ void CTextZone::KeyTab(int bShift) {
         if (pLine) {
             const int line = m_nSelStartLine;
             int ch = m_nSelStartChar;
+            const int before = pLine->GetLength();
             PadText(*pLine, ch);
-            const int limit = GetLineLimit();
+            AddLength(*this, pLine->GetLength() - before);
+            // Undo takes the padding out together with the tab.
+            if (!UndoByOffsets())
+                m_nSelRootChar = std::min(m_nSelRootChar, std::max(0, before - pLine->IsEnded()));
+            const int limit = m_bUndoing ? INT_MAX : GetLineLimit();
             if (GetTabConvert()) {
                 do {
                     if (pLine->GetLength() >= limit) break;

@@ -100,6 +100,11 @@ void CTextZone::HandleKeyDown(UINT nChar, UINT, UINT) {
         default:
             break;
     }
+    // The edits keep the running length by steps; a recount settles the
+    // line end that the length counts behind an unended last line.
+    if (nChar == VK_BACK || nChar == VK_DELETE || nChar == VK_TAB || nChar == VK_RETURN ||
+        nChar == VK_MULTIPLY)
+        RebuildCurrentLength();
 }
 
 // Ctrl+Num *: numbers the lines of a tall caret from 1, all numbers as wide

@@ -1,5 +1,6 @@
 // The zone's settings: plain setters and getters, and the few that have to
 // bring the text or the screen in line with a new value.
+#include <algorithm>
 #include "platform/DC.h"
 #include "platform/Messages.h"
 #include "platform/Platform.h"
@@ -61,7 +62,9 @@ int CTextZone::IsFontProportionnal() {
 }
 
 void CTextZone::SetTabWidth(int nTabWidth) {
-    m_nTabWidth = nTabWidth;
+    // A step wider than any window (or than 256 characters) only makes the
+    // measuring overflow.
+    m_nTabWidth = std::clamp(nTabWidth, -256, 4096);
     if (m_pWnd) {
         // Recorded positions no longer mean the same under another tab step.
         FreeAllOperations();

@@ -25,7 +25,7 @@ bool OnlyBlanks(const CStringEx& line) {
 // With wrapped paragraphs line positions shift on every rewrap, so units
 // hold text offsets instead.
 bool ParagraphForm(const CTextZone& zone) {
-    return (zone.m_dwStyle & ZS_PARAGRAPH) && zone.m_nSelectionMode == 1;
+    return zone.UndoByOffsets();
 }
 
 std::unique_ptr<char[]> InfoOf(CTextZone& zone, int nLine) {
@@ -154,7 +154,8 @@ bool RecordCharAt(CTextZone& zone, CUndoUnit& unit) {
 }
 
 // Kinds 6 and 7: a copy of the lines a box edit touches, each line's raw
-// text ended by 13 and followed by 10.
+// text (with its 13 if it is ended) followed by 10. A line that is not there
+// yet, which the edit will add behind the text, is a 0 byte and 10.
 bool RecordLines(CTextZone& zone, CUndoUnit& unit) {
     // Sized like the same lines read out whole in stream form with CR LF,
     // which is what the copy holds.
@@ -174,8 +175,10 @@ bool RecordLines(CTextZone& zone, CUndoUnit& unit) {
     text.reserve(static_cast<size_t>(size));
     for (int n = startLine; n <= endLine; ++n) {
         CStringEx* pLine = zone.GetLine(n);
-        if (pLine) text.append(pLine->c_str(), static_cast<size_t>(pLine->GetLength()));
-        if (!pLine || !pLine->IsEnded()) text += '\r';
+        if (pLine)
+            text.append(pLine->c_str(), static_cast<size_t>(pLine->GetLength()));
+        else
+            text += '\0';
         text += '\n';
     }
     PlaceFromSelection(zone, unit);

@@ -19,7 +19,7 @@ bool IsBlank(char c) {
 }
 
 bool ParagraphForm(const CTextZone& zone) {
-    return (zone.m_dwStyle & ZS_PARAGRAPH) && zone.m_nSelectionMode == 1;
+    return zone.UndoByOffsets();
 }
 
 void CaretToFirstPlace(CTextZone& zone, const CUndoUnit& unit) {
@@ -44,15 +44,21 @@ void SelectPlace(CTextZone& zone, const CUndoUnit& unit) {
 
 // Each line from the unit's first to its last takes back its copy: the
 // bytes up to the next 10, the terminator included. The line object stays,
-// and with it its bookmarks and block flags. The copy ends every line with
-// 13, so an unended last line comes back ended.
+// and with it its bookmarks and block flags. Lines that were not there go
+// again (the edit added them behind the text), and lines that were there
+// come back if they are missing (a redo of such an edit).
 void RestoreLines(CTextZone& zone, const CUndoUnit& unit) {
     const std::string& text = unit.m_hText;
     size_t pos = 0;
     for (int n = unit.m_nFirstLine; n <= unit.m_nLastLine && pos < text.size(); ++n) {
-        CStringEx* pLine = zone.GetLine(n);
-        if (!pLine) break;
         size_t end = std::min(text.find('\n', pos), text.size());
+        CStringEx* pLine = zone.GetLine(n);
+        if (end - pos == 1 && text[pos] == '\0') {
+            if (pLine) zone.RemoveLines(n, std::min(unit.m_nLastLine, zone.GetLastLineIndex()) - n + 1);
+            break;
+        }
+        if (!pLine) pLine = zone.InsertLine(n);
+        if (!pLine) break;
         pLine->assign(text.data() + pos, static_cast<int>(end - pos));
         pos = end + 1;
     }
