@@ -10,6 +10,7 @@
 
 #include <list>
 #include <memory>
+#include <string>
 
 #include "host/GraphicText.h"
 #include "host/VeskString.h"
@@ -223,6 +224,9 @@ public:
     // Whether undo records places as text offsets: with wrapped paragraphs
     // line positions shift on every rewrap. Box mode never meets wrap.
     bool UndoByOffsets() const { return (m_dwStyle & ZS_PARAGRAPH) && m_nSelectionMode != 2; }
+    // The selected text as GetSelectedText writes it, in a buffer of just
+    // the room it needs.
+    std::string GetSelectedTextString(WORD wFlags);
     void CollapseCurrentSel();
     void ExpandCurrentSel();
     void GetTextCRCValues(int* pSize, int* pHash);

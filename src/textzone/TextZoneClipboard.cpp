@@ -28,12 +28,10 @@ public:
 int CTextZone::Copy() {
     if (!TestSelection()) return 0;
     CWaitCursor wait;
-    LONG size = GetSelectedTextLength(TF_CRLF) + 10;
-    std::vector<char> buffer(static_cast<size_t>(size), 0);
-    GetSelectedText(buffer.data(), size, TF_CRLF);
+    const std::string text = GetSelectedTextString(TF_CRLF);
     if (!OpenClipboard(m_pWnd)) return 0;
     EmptyClipboard();
-    BOOL taken = SetClipboardData(CF_TEXT, std::string(buffer.data()));
+    BOOL taken = SetClipboardData(CF_TEXT, text);
     CloseClipboard();
     return taken ? 1 : 0;
 }

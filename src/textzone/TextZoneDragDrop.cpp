@@ -39,11 +39,8 @@ void CTextZone::HandleOleMouseMove(UINT nFlags, POINT* pt) {
 }
 
 int CTextZone::HandleOleDrag(UINT, POINT* pt) {
-    LONG size = GetSelectedTextLength(0) + 10;
-    std::vector<char> buffer(static_cast<size_t>(size), 0);
-    GetSelectedText(buffer.data(), size, 0);
     COleDataSource source;
-    source.CacheGlobalData(CF_TEXT, std::string(buffer.data()));
+    source.CacheGlobalData(CF_TEXT, GetSelectedTextString(0));
     m_bOleDragSource = 1;
     DWORD effect = source.DoDragDrop(
         m_bReadOnly ? DROPEFFECT_COPY : DROPEFFECT_COPY | DROPEFFECT_MOVE, m_pWnd);

@@ -14,6 +14,7 @@ namespace {
 using textbytes::IsBlank;
 using textbytes::kLineEnd;
 using textbytes::PadText;
+using textbytes::TextLength;
 
 // CR, LF and CR LF are one line end each; LF CR is two.
 int CountLineEnds(const char* p) {
@@ -259,6 +260,19 @@ void CTextZone::DeleteSelection(int bUpdate) {
     if (!TestSelection()) return;
     const bool box = m_nSelectionMode == 2;
     if (box && m_nSelStartChar == m_nSelEndChar) return;
+    // A start behind a line's end pads the line up to it: recorded as typed
+    // blanks, so that undo takes them out again.
+    CStringEx* pStart = m_nSelectionMode == 1 ? GetLine(m_nSelStartLine) : nullptr;
+    if (pStart && m_nSelStartChar > TextLength(*pStart) && !UndoByOffsets()) {
+        const int endLine = m_nSelEndLine, endChar = m_nSelEndChar;
+        m_nSelRootLine = m_nSelEndLine = m_nSelStartLine;
+        m_nSelRootChar = TextLength(*pStart);
+        m_nSelEndChar = m_nSelStartChar;
+        PadText(*pStart, m_nSelStartChar);
+        RegisterUnit(4);
+        m_nSelEndLine = endLine;
+        m_nSelEndChar = endChar;
+    }
     // Line mode removes nothing, so there is nothing to record either.
     if (m_nSelectionMode != 0) RegisterUnit(box ? 6 : 1);
     HideCaret();

@@ -20,12 +20,10 @@ int RawLength(CTextZone& zone, int nLine) {
 
 int CTextZone::SameAsSelected(const char* pszText, int bMatchCase) {
     if (!pszText) return 0;
-    const LONG lLength = GetSelectedTextLength(0);
-    if (static_cast<LONG>(std::strlen(pszText)) != lLength) return 0;
-    std::vector<char> buffer(static_cast<size_t>(lLength) + 10);
-    GetSelectedText(buffer.data(), lLength + 10, 0);
-    if (bMatchCase) return std::strcmp(buffer.data(), pszText) == 0 ? 1 : 0;
-    return _stricmp(buffer.data(), pszText) == 0 ? 1 : 0;
+    if (static_cast<LONG>(std::strlen(pszText)) != GetSelectedTextLength(0)) return 0;
+    const std::string selected = GetSelectedTextString(0);
+    if (bMatchCase) return std::strcmp(selected.c_str(), pszText) == 0 ? 1 : 0;
+    return _stricmp(selected.c_str(), pszText) == 0 ? 1 : 0;
 }
 
 int CTextZone::FindTextFromCurrentPos(const char* pszText, int bForward, int bMatchCase) {
@@ -127,9 +125,9 @@ int CTextZone::FindTextFromCurrentPos(const char* pszText, int bForward, int bMa
 
 void CTextZone::MakeUpperOrLower(int bLower) {
     if (TestSelection()) {
-        const LONG lLength = GetSelectedTextLength(0);
-        std::vector<char> buffer(static_cast<size_t>(lLength) + 10);
-        GetSelectedText(buffer.data(), lLength + 10, 0);
+        std::string text = GetSelectedTextString(0);
+        std::vector<char> buffer(text.begin(), text.end());
+        buffer.push_back(0);
         if (bLower)
             CharLowerA(buffer.data());
         else

@@ -218,15 +218,13 @@ void CTextZone::DropSelectedText(int nLine, int nChar, bool bCopy) {
         nLine -= m_nSelEndLine - m_nSelStartLine;
     }
     StartRegister(11);
-    LONG size = GetSelectedTextLength(0) + 10;
-    std::vector<char> text(static_cast<size_t>(size), 0);
-    GetSelectedText(text.data(), size, 0);
+    const std::string text = GetSelectedTextString(0);
     const int oldFirst = m_nSelStartLine;
     const int oldLast = m_nSelEndLine;
     if (!bCopy) DeleteSelection(1);
     SetSelection(nLine, nLine, nChar, nChar, 0, 0);
     if (bCopy) RedrawLines(oldFirst, oldLast, 1);
-    InsertText(text.data(), 1, 1, 1);
+    InsertText(text.c_str(), 1, 1, 1);
     EndRegister();
     SetModify(1);
     UpdateVScrollBar();

@@ -1,6 +1,7 @@
 // The selection record: setting and reading it in its three forms (raw line
 // and character, text offset, box), and reading out the selected text.
 #include <algorithm>
+#include <vector>
 
 #include "textzone/TextZone.h"
 
@@ -221,4 +222,15 @@ LONG CTextZone::GetSelectedTextLength(WORD wFlags) {
             total += endBytes;
     }
     return total;
+}
+
+std::string CTextZone::GetSelectedTextString(WORD wFlags) {
+    if (!TestSelection()) return {};
+    // The length leaves out the line end that line mode writes behind its
+    // last line (at most 2 bytes), and a line end needs one byte more of
+    // room than it takes: 3 beyond the length hold all of it and the 0.
+    const LONG size = GetSelectedTextLength(wFlags) + 3;
+    std::vector<char> buffer(static_cast<size_t>(size), 0);
+    GetSelectedText(buffer.data(), size, wFlags);
+    return buffer.data();
 }

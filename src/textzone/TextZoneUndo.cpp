@@ -2,8 +2,10 @@
 // primitives file units into it saying how to reverse each of their steps,
 // and closing the operation puts it on the history. Replaying is in
 // TextZoneUndoReplay.cpp.
+#include <algorithm>
 #include <vector>
 
+#include "textzone/TextBytes.h"
 #include "textzone/TextZone.h"
 
 namespace {
@@ -55,10 +57,21 @@ bool RecordSelectedText(CTextZone& zone, CUndoUnit& unit) {
         zone.m_nSelStartChar == zone.m_nSelEndChar)
         return false;  // a box caret deletes nothing
 
-    LONG size = zone.GetSelectedTextLength(0) + 10;
-    std::vector<char> buffer(static_cast<size_t>(size), 0);
-    zone.GetSelectedText(buffer.data(), size, 0);
-    unit.m_hText = buffer.data();
+    // In a stream the text is what the deletion takes: a place behind a
+    // line's end (free caret, or the line behind the text) holds no blanks,
+    // and the end at a raw length takes the line end as the deletion does.
+    const int savedEndLine = zone.m_nSelEndLine, savedEndChar = zone.m_nSelEndChar;
+    if (zone.m_nSelectionMode == 1) {
+        CStringEx* pEnd = zone.GetLine(savedEndLine);
+        if (pEnd && !(zone.m_dwStyle & ZS_FREECARET) && savedEndChar == pEnd->GetLength() &&
+            pEnd->IsEnded())
+            zone.m_nSelEndLine = savedEndLine + 1, zone.m_nSelEndChar = 0;
+        else
+            zone.m_nSelEndChar = std::min(savedEndChar, pEnd ? textbytes::TextLength(*pEnd) : 0);
+    }
+    unit.m_hText = zone.GetSelectedTextString(0);
+    zone.m_nSelEndLine = savedEndLine;
+    zone.m_nSelEndChar = savedEndChar;
 
     if (ParagraphForm(zone)) {
         LONG start = 0, end = 0;
@@ -165,7 +178,7 @@ bool RecordLines(CTextZone& zone, CUndoUnit& unit) {
     zone.m_nSelEndLine = endLine + 1;
     zone.m_nSelStartChar = zone.m_nSelEndChar = 0;
     zone.m_nSelectionMode = 1;
-    LONG size = zone.GetSelectedTextLength(TF_CRLF) + 10;
+    LONG size = zone.GetSelectedTextLength(TF_CRLF) + 3;
     zone.m_nSelEndLine = endLine;
     zone.m_nSelStartChar = startChar;
     zone.m_nSelEndChar = endChar;
@@ -248,8 +261,10 @@ void CTextZone::RegisterUnit(WORD wKind) {
         op.m_group.push_back(std::move(pUnit));
     else if (!op.m_pFirst)
         op.m_pFirst = std::move(pUnit);
+    else if (!op.m_pSecond)
+        op.m_pSecond = std::move(pUnit);
     else
-        op.m_pSecond = std::move(pUnit);  // a plain edit makes at most two
+        op.m_group.push_back(std::move(pUnit));  // rare: padding made room first
 }
 
 void CTextZone::EndRegister() {

@@ -151,6 +151,9 @@ void CTextZone::PerformUndoing(CUndoOperation* pOperation) {
         for (auto it = op.m_group.rbegin(); it != op.m_group.rend() && *it; ++it)
             units.push_back(it->get());
     } else {
+        // Units past the second follow in the list, newest last.
+        for (auto it = op.m_group.rbegin(); it != op.m_group.rend() && *it; ++it)
+            units.push_back(it->get());
         if (op.m_pSecond) units.push_back(op.m_pSecond.get());
         if (op.m_pFirst) units.push_back(op.m_pFirst.get());
     }
