@@ -59,6 +59,10 @@ std::string CZoneFuzzer::Text() {
 }
 
 void CZoneFuzzer::CheckInvariants() {
+    if (s_bTrace)
+        std::fprintf(stderr, "    text '%s' sel %d,%d-%d,%d mode %d undo %zu\n", Shown(Text()).c_str(),
+                     m_zone.m_nSelStartLine, m_zone.m_nSelStartChar, m_zone.m_nSelEndLine,
+                     m_zone.m_nSelEndChar, m_zone.m_nSelectionMode, m_zone.m_undoList.size());
     CheckStore();
     CheckLengths();
     CheckSelection();

@@ -107,7 +107,7 @@ void CTextZone::HandleChar(UINT nChar, UINT, UINT) {
     // A free caret behind a line's end pads the line: the blanks count
     // against the maximum as much as the typed byte does.
     CStringEx* pCaretLine = GetLine(m_nSelStartLine);
-    const int padding = pCaretLine ? std::max(0, m_nSelStartChar - TextLength(*pCaretLine)) : 0;
+    const int padding = std::max(0, m_nSelStartChar - (pCaretLine ? TextLength(*pCaretLine) : 0));
     // A replay of the history puts back what was there, limits or not.
     if (!m_bUndoing && (GetLastLineIndex() >= TZ_MAX_LINES ||
                         (m_lMaxLength > 0 && m_nCurrentLength + padding >= m_lMaxLength))) {
@@ -118,11 +118,12 @@ void CTextZone::HandleChar(UINT nChar, UINT, UINT) {
     }
     HideCaret();
     KeySetTypingRoot();
-    // Undo takes the padding out together with the byte.
-    if (padding > 0 && !UndoByOffsets()) m_nSelRootChar -= padding;
     int created = 0;
     CStringEx* pLine = KeyLineForTyping(&created);
     const int line = m_nSelStartLine;
+    // Undo takes the padding out together with the byte.
+    if (pLine && m_nSelRootLine == line && !UndoByOffsets())
+        m_nSelRootChar = std::min(m_nSelRootChar, TextLength(*pLine));
     int first = line;
     int last = line;
     if (pLine) {

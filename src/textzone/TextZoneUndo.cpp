@@ -63,7 +63,11 @@ bool RecordSelectedText(CTextZone& zone, CUndoUnit& unit) {
     const int savedEndLine = zone.m_nSelEndLine, savedEndChar = zone.m_nSelEndChar;
     if (zone.m_nSelectionMode == 1) {
         CStringEx* pEnd = zone.GetLine(savedEndLine);
-        if (pEnd && !(zone.m_dwStyle & ZS_FREECARET) && savedEndChar == pEnd->GetLength() &&
+        CStringEx* pAbove = savedEndLine > 0 ? zone.GetLine(savedEndLine - 1) : nullptr;
+        if (!pEnd && pAbove && !pAbove->IsEnded())
+            // Behind an unended last line: the text ends on that line.
+            zone.m_nSelEndLine = savedEndLine - 1, zone.m_nSelEndChar = textbytes::TextLength(*pAbove);
+        else if (pEnd && !(zone.m_dwStyle & ZS_FREECARET) && savedEndChar == pEnd->GetLength() &&
             pEnd->IsEnded())
             zone.m_nSelEndLine = savedEndLine + 1, zone.m_nSelEndChar = 0;
         else
