@@ -131,12 +131,14 @@ void CStringEx::TransferStartingSpaces(CStringEx& target) {
     discardLeft(n);
 }
 
+// Hosts may set any of the 32 bits, so the text carries the whole word,
+// unsigned: ten digits and the 0.
 char* CStringEx::GetSpecificInfo() {
-    char* pszInfo = new char[10];
-    std::snprintf(pszInfo, 10, "%d", static_cast<int>(m_dwBookmarks));
+    char* pszInfo = new char[11];
+    std::snprintf(pszInfo, 11, "%u", static_cast<unsigned>(m_dwBookmarks));
     return pszInfo;
 }
 
 void CStringEx::SetSpecificInfo(char* pszInfo) {
-    m_dwBookmarks = pszInfo ? static_cast<DWORD>(std::atoi(pszInfo)) : 0;
+    m_dwBookmarks = pszInfo ? static_cast<DWORD>(std::strtoul(pszInfo, nullptr, 10)) : 0;
 }

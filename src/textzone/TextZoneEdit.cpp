@@ -128,7 +128,9 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
             int tailLength = pTail->GetLength();
             int caretChar = m_nSelStartChar;
             // A free caret may stand beyond the text: blanks fill the gap, in
-            // front of the line end.
+            // front of the line end, and undo takes them out with the text.
+            if (m_nSelRootLine == L && !UndoByOffsets())
+                m_nSelRootChar = std::min(m_nSelRootChar, TextLength(*pLine));
             PadText(*pLine, caretChar);
             *pTail += pLine->subString(caretChar);
             pLine->keepLeft(caretChar);
@@ -208,7 +210,9 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
                     if (pPrev && pPrev->GetLength() != prevLength)
                         first = std::min(first, done - 1);
                 }
-                L = done + 1;
+                // A run that cannot wrap (width 0) stops where it began, which
+                // may be the line above: the next piece still goes below L.
+                L = std::max(done, L) + 1;
                 firstPass = false;
             }
             if (*p) result = 0;
