@@ -156,7 +156,7 @@ void CZoneFuzzer::CheckBlocks() {
         for (const auto* pList : {&m_zone.m_editBlocks, &m_zone.m_altBlocks})
             for (const auto& pBlk : *pList)
                 if (pBlk->IsClosed() && i > pBlk->m_nFirstLine &&
-                    i < pBlk->m_nFirstLine + pBlk->m_nLineCount)
+                    i < static_cast<long long>(pBlk->m_nFirstLine) + pBlk->m_nLineCount)
                     covered = true;
         if (!covered) Fail("line " + std::to_string(i) + " is hidden outside a closed block");
     }
