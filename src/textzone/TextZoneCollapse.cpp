@@ -75,6 +75,13 @@ int CTextZone::OpenBlock(int nLine, int bUpdate) {
             if (pLine->m_dwBlockFlags & 4) bChanged = true;
             pLine->m_dwBlockFlags &= ~4u;
         };
+        // An alternate block may lie in a closed block of the language,
+        // whose lines stay hidden: those blocks round its lines, found once.
+        std::vector<const CEditBlk*> closedRound;
+        if (pBlk != pEdit)
+            for (const auto& p : m_editBlocks)
+                if (p->m_nFirstLine < nEnd && EndOf(*p) > nLine + 1 && p->IsClosed())
+                    closedRound.push_back(p.get());
         auto itInner = std::find_if(m_editBlocks.begin(), m_editBlocks.end(),
                                     [nLine](const auto& p) { return p->m_nFirstLine > nLine; });
         for (long long n = static_cast<long long>(nLine) + 1; n < nEnd;) {
@@ -92,7 +99,10 @@ int CTextZone::OpenBlock(int nLine, int bUpdate) {
                 ++itInner;
                 continue;
             }
-            show(pLine);
+            const bool covered = std::any_of(closedRound.begin(), closedRound.end(), [n](auto* p) {
+                return p->m_nFirstLine < n && n < EndOf(*p);
+            });
+            if (!covered) show(pLine);
             ++n;
         }
     }
