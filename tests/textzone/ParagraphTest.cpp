@@ -208,3 +208,28 @@ TEST_F(ParagraphTest, RandomEditsKeepTextWidthsAndCaret) {
         EXPECT_EQ(Text(TF_NO_FINAL_END), model);
     }
 }
+
+TEST_F(ParagraphTest, HyphensBreakWordsAndABytetooWideForTheWidthStaysAlone) {
+    Wrap(ZS_WORDBREAK, 64);
+    ASSERT_TRUE(m_zone.SetText("well-known fact\r\n"));
+    EXPECT_EQ(Lines(), "[well-][known ][fact\r]");
+    m_zone.SetMaxWidth(72);  // a word behind a hyphen goes up whole or not at all
+    EXPECT_EQ(Lines(), "[well-][known ][fact\r]");
+    m_zone.SetMaxWidth(64);
+    ASSERT_TRUE(m_zone.SetText("aaaa-bbbbbbbbbbbbbbbbbbbb\r\n"));  // far too wide: cut at once
+    EXPECT_EQ(Lines().substr(0, 7), "[aaaa-]");
+    ASSERT_TRUE(m_zone.SetText("well-known fact\r\n"));
+    // Narrower than one byte: one byte a line, and the wrap comes to an end.
+    m_zone.SetMaxWidth(4);
+    EXPECT_EQ(Lines(), "[w][e][l][l][-][k][n][o][w][n][ ][f][a][c][t\r]");
+    EXPECT_EQ(Text(), "well-known fact\r\n");
+}
+
+TEST_F(ParagraphTest, ACaretAtTheCutGoesToTheStartOfTheNextLine) {
+    Wrap(ZS_WORDBREAK, 80);
+    ASSERT_TRUE(m_zone.SetText("aaaa bbbb\r\n"));
+    m_zone.SetSelection(0, 0, 5, 5, 0, 0);  // before "bbbb"
+    m_zone.InsertText("cc ", 0, 1, 1);       // "aaaa cc bbbb": the cut falls at the caret
+    EXPECT_EQ(Lines(), "[aaaa cc ][bbbb\r]");
+    ExpectCaret(1, 0);
+}
