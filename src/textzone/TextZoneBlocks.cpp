@@ -43,6 +43,8 @@ void ToggleHeadAtCaret(CTextZone& zone) {
 }  // namespace
 
 int CTextZone::SetEditBlock(int nLine, int nCount) {
+    // No block reaches beyond the text.
+    if (nLine >= 0) nCount = std::min(nCount, GetLineCount() - nLine);
     const long long nEnd = static_cast<long long>(nLine) + nCount;
     for (auto& pBlk : m_editBlocks) {
         if (pBlk->m_nFirstLine != nLine) continue;

@@ -177,9 +177,9 @@ void CTextZone::BoxDeleteSelection() {
         int idx = GetCharIndexFromPoint(pLine, &pt);
         int x = BoxX(pDC, *pLine, idx);
         if (x > bound && idx > 0 && (*pLine)[idx - 1] == '\t') x = BoxX(pDC, *pLine, --idx);
-        // Each step moves the index on by one byte, so the search ends even
-        // where a tab step is no whole number of byte widths and no byte
-        // boundary meets the edge.
+        // Each step moves the index on by at least one byte, so the search
+        // ends even where a tab step is no whole number of byte widths and
+        // no byte boundary meets the edge.
         while (x < bound && idx < TZ_MAX_PLACE) {
             const int textLength = pLine->GetLength() - pLine->IsEnded();
             if (idx >= textLength) {
@@ -202,7 +202,9 @@ void CTextZone::BoxDeleteSelection() {
                 // A byte across the edge goes right of it.
                 pLine->InsertChar(idx, ' ');
             }
-            x = BoxX(pDC, *pLine, ++idx);
+            // The place is looked for again, but never behind the last one.
+            idx = std::max(idx + 1, GetCharIndexFromPoint(pLine, &pt));
+            x = BoxX(pDC, *pLine, idx);
         }
         return idx;
     };

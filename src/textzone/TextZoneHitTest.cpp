@@ -19,7 +19,13 @@ int CTextZone::GetCharIndexFromPoint(CStringEx* pLine, POINT* pt) {
         padded = *pLine;
         // The terminator would be measured in the middle of the padding.
         if (padded.IsEnded()) padded.discardRight(1);
-        padded.EnsureMinimumLength(TZ_MAX_LINE_LENGTH);
+        // Padded as far as the point needs (a byte past it), not always to
+        // the limit: measuring 65500 bytes on every hit test is slow.
+        const int textWidth = GetTextWidth(pDC, padded.c_str(), padded.GetLength());
+        const int space = std::max(1, GetTextWidth(pDC, " ", 1) - GetTextWidth(pDC, "", 0));
+        const long long reach =
+            padded.GetLength() + std::max(0LL, static_cast<long long>(d) - textWidth) / space + 2;
+        padded.EnsureMinimumLength(static_cast<int>(std::min<long long>(reach, TZ_MAX_LINE_LENGTH)));
         line = &padded;
     }
     const char* text = line->c_str();

@@ -193,7 +193,8 @@ CStringEx* CTextZone::InsertLine(int nLine) {
 
     ++m_nLineCount;
     for (auto& blk : m_editBlocks) {
-        if (blk->m_nFirstLine < nLine && nLine < blk->m_nFirstLine + blk->m_nLineCount)
+        if (blk->m_nFirstLine < nLine &&
+            nLine < static_cast<long long>(blk->m_nFirstLine) + blk->m_nLineCount)
             ++blk->m_nLineCount;
         if (blk->m_nFirstLine >= nLine) ++blk->m_nFirstLine;
     }
