@@ -4,6 +4,7 @@
 // keeps its column.
 #include <algorithm>
 #include <cstring>
+#include <string>
 #include <vector>
 
 #include "platform/DC.h"
@@ -131,9 +132,13 @@ int CTextZone::BoxInsertText(const char* pszText, int nColumn, int bHadSelection
                 buffer[static_cast<size_t>(idx + filled++)] = s < scanned ? p[s] : ' ';
             }
         }
-        const int newLength = rawLength + std::min(filled, TZ_MAX_LINE_LENGTH - rawLength);
+        // What passes the line limit is left out of the inserted piece, never
+        // cut from the line's own text and its end.
+        const int kept = std::clamp(TZ_MAX_LINE_LENGTH - rawLength, 0, filled);
+        std::string joined(buffer.data(), static_cast<size_t>(idx + kept));
+        joined.append(pLine->c_str() + idx, static_cast<size_t>(rawLength - idx));
         // A fresh line: the bookmarks and block flags of the line go.
-        *pLine = CStringEx(VESK::String(buffer.data(), newLength).c_str());
+        *pLine = CStringEx(joined.c_str());
         caretChar = idx + width;
         lastWritten = k;
         firstSource = false;

@@ -100,3 +100,13 @@ TEST_F(HostileInputTest, EveryBookmarkBitSurvivesTheLineInfoCarrier) {
     m_zone.Undo();
     EXPECT_EQ(m_zone.GetLine(1)->m_dwBookmarks, 0xC0000000u);
 }
+
+TEST_F(HostileInputTest, BoxTextAtTheLineLimitLeavesTheLinesTheirEnds) {
+    ASSERT_TRUE(m_zone.SetText("\r\nabc\r\n"));
+    Box(0, INT_MAX, 1, INT_MAX);  // held at the longest line there can be
+    m_zone.InsertText("xy\r\nxy\r\n", 0, 1, 1);
+    ASSERT_EQ(m_zone.GetLineCount(), 2);
+    EXPECT_TRUE(m_zone.GetLine(0)->IsEnded());
+    EXPECT_TRUE(m_zone.GetLine(1)->IsEnded());
+    EXPECT_EQ(Line(1).substr(0, 3), "abc");
+}
