@@ -10,11 +10,15 @@
 
 #include "textzone/TextZone.h"
 
-CDemoWindow::CDemoWindow(QWidget* pParent) : QMainWindow(pParent) {
-    m_pEditor = new CQtEditorWidget(this);
+CDemoWindow::CDemoWindow(QWidget* pParent)
+    : QMainWindow(pParent), m_pZone(std::make_unique<CTextZoneColor>()) {
+    m_pEditor = new CQtEditorWidget(this, WS_VSCROLL | WS_HSCROLL | WS_BORDER, m_pZone.get());
     setCentralWidget(m_pEditor);
     m_pStatus = new QLabel(this);
     statusBar()->addWidget(m_pStatus);
+    m_pLanguage = new QLabel(this);
+    statusBar()->addPermanentWidget(m_pLanguage);
+    ApplyLanguage(CLanguageChoice());
 
     QMenu* pFile = menuBar()->addMenu("&File");
     pFile->addAction("&Open...", QKeySequence::Open, [this] {
@@ -41,6 +45,25 @@ CDemoWindow::CDemoWindow(QWidget* pParent) : QMainWindow(pParent) {
     UpdateTitle();
 }
 
+CDemoWindow::~CDemoWindow() {
+    // The control goes before the zone it borrows.
+    delete m_pEditor;
+    m_pEditor = nullptr;
+}
+
+void CDemoWindow::SetLanguage(const CLanguageChoice& choice) {
+    m_bLanguageChosen = true;
+    ApplyLanguage(choice);
+}
+
+void CDemoWindow::ApplyLanguage(const CLanguageChoice& choice) {
+    m_language = choice;
+    choice.Apply(*m_pZone);
+    // Some language switches leave the repaint to the host.
+    m_pZone->RedrawTextZone();
+    m_pLanguage->setText(QString::fromStdString(choice.Name()));
+}
+
 bool CDemoWindow::OpenFile(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) return false;
@@ -51,6 +74,7 @@ bool CDemoWindow::OpenFile(const QString& path) {
     std::string text(bytes.constData(), static_cast<size_t>(bytes.size()));
     for (char& c : text)
         if (c == 0) c = ' ';
+    if (!m_bLanguageChosen) ApplyLanguage(CLanguageChoice::ForPath(path.toStdString()));
     m_pEditor->Editor().SetWindowTextA(text.c_str());
     // A file opens at its top, the caret at its start.
     m_pEditor->Editor().SetSel(0, 0);
@@ -80,7 +104,9 @@ bool CDemoWindow::SaveFile(const QString& path) {
 
 QString CDemoWindow::CaretText() {
     CTextZone& zone = m_pEditor->Zone();
-    return QString("Ln %1, Col %2").arg(zone.GetSelMobileLine() + 1).arg(zone.GetSelMobileChar() + 1);
+    return QString("Ln %1, Col %2")
+        .arg(zone.GetSelMobileLine() + 1)
+        .arg(zone.GetSelMobileChar() + 1);
 }
 
 bool CDemoWindow::SaveScreenshot(const QString& path) {

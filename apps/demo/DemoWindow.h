@@ -1,6 +1,8 @@
 // The demo host: a main window with one editor control filling it, a File
 // menu that opens and saves 8-bit files, and a status line that tells the
-// caret's line and column.
+// caret's line and column and the language. The control works on a
+// coloured zone of the window's own; a file is coloured by its extension
+// unless a language was chosen.
 #pragma once
 
 #include <QLabel>
@@ -8,11 +10,16 @@
 #include <QString>
 #include <QTimer>
 
+#include <memory>
+
+#include "apps/common/LanguageChoice.h"
+#include "colour/TextZoneColor.h"
 #include "editor/qt/QtEditorWidget.h"
 
 class CDemoWindow : public QMainWindow {
 public:
     explicit CDemoWindow(QWidget* pParent = nullptr);
+    ~CDemoWindow() override;
 
     CQtEditorWidget& EditorWidget() { return *m_pEditor; }
     // Loads a file as it is, byte for byte; false if it cannot be read.
@@ -21,6 +28,9 @@ public:
     bool SaveFile(const QString& path);
     // "Ln 3, Col 7", from the caret.
     QString CaretText();
+    // Colours the text as this language from now on, whatever the files.
+    void SetLanguage(const CLanguageChoice& choice);
+    const CLanguageChoice& Language() const { return m_language; }
     // Renders the window into a PNG file.
     bool SaveScreenshot(const QString& path);
 
@@ -28,8 +38,14 @@ private:
     void UpdateStatus();
     void UpdateTitle();
 
+    void ApplyLanguage(const CLanguageChoice& choice);
+
+    std::unique_ptr<CTextZoneColor> m_pZone;  // outlives the control that borrows it
     CQtEditorWidget* m_pEditor;
     QLabel* m_pStatus;
+    QLabel* m_pLanguage;
+    CLanguageChoice m_language;
+    bool m_bLanguageChosen = false;
     QTimer m_statusTimer;
     QString m_path;
     bool m_bCrLf = false;

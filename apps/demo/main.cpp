@@ -1,9 +1,12 @@
-// textzone-demo [FILE] [--screenshot FILE.png]
-// Opens FILE in an editor window. Without a display, or with --screenshot,
-// it renders the window offscreen into a PNG instead and exits.
+// textzone-demo [FILE] [--lang ID] [--dialect N] [--screenshot FILE.png]
+// Opens FILE in an editor window, coloured by its extension, or as the
+// language of --lang (a language id or an extension name: 1300, java) or the
+// SQL dialect of --dialect (150, -92, ...). Without a display, or with
+// --screenshot, it renders the window offscreen into a PNG and exits.
 #include <QApplication>
 #include <QTimer>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 
 #include "apps/demo/DemoWindow.h"
@@ -12,11 +15,29 @@
 int main(int argc, char** argv) {
     const char* pszFile = nullptr;
     const char* pszShot = nullptr;
+    CLanguageChoice language;
+    bool bLanguage = false;
     for (int i = 1; i < argc; ++i) {
-        if (std::strcmp(argv[i], "--screenshot") == 0 && i + 1 < argc)
+        const bool bValue = i + 1 < argc;
+        if (std::strcmp(argv[i], "--screenshot") == 0 && bValue) {
             pszShot = argv[++i];
-        else
+        } else if (std::strcmp(argv[i], "--lang") == 0 && bValue) {
+            bLanguage = true;
+            if (!CLanguageChoice::FromArgument(argv[++i], &language)) {
+                std::fprintf(stderr, "textzone-demo: no language %s\n", argv[i]);
+                return 2;
+            }
+        } else if (std::strcmp(argv[i], "--dialect") == 0 && bValue) {
+            bLanguage = true;
+            char* pEnd = nullptr;
+            const long n = std::strtol(argv[++i], &pEnd, 10);
+            if (*pEnd || !CLanguageChoice::FromDialect(static_cast<int>(n), &language)) {
+                std::fprintf(stderr, "textzone-demo: no SQL dialect %s\n", argv[i]);
+                return 2;
+            }
+        } else {
             pszFile = argv[i];
+        }
     }
     const bool bDisplay =
         !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
@@ -28,6 +49,7 @@ int main(int argc, char** argv) {
     CQtPlatform platform;
     CDemoWindow window;
     window.resize(900, 600);
+    if (bLanguage) window.SetLanguage(language);
     if (pszFile && !window.OpenFile(QString::fromLocal8Bit(pszFile))) {
         std::fprintf(stderr, "textzone-demo: cannot read %s\n", pszFile);
         return 1;

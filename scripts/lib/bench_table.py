@@ -29,6 +29,12 @@ TASKS = [
     ("UndoApi", "Undo the 100 inserted characters"),
     ("Find", "Find a word near the end"),
     ("Paint", "Paint one screen (800 x 600)"),
+    ("DefineColors", "Colour runs of 60 dense T-SQL lines (dialect 90)"),
+    ("StartWithWhat", "Start state of the last line, from a cold start"),
+    ("PaintColour", "Paint one screen of coloured SQL (800 x 600)"),
+    ("TypeColour", "Coloured T-SQL: a letter typed in the middle, with its repaint (budget 1 ms)"),
+    ("OpenComment", "Coloured T-SQL: the '*' that opens a comment at line 100, with the repaint (budget 3 ms)"),
+    ("CtrlEnd", "Coloured T-SQL: Ctrl+End from the top, painted in colour (budget 1 s)"),
 ]
 
 

@@ -41,14 +41,14 @@ protected:
     // A press, a move with the button held and a release, in the editor's widget.
     void Drag(QPoint from, QPoint to) {
         QWidget* widget = EditorWidget();
-        QMouseEvent press(QEvent::MouseButtonPress, from, widget->mapToGlobal(from),
-                          Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QMouseEvent press(QEvent::MouseButtonPress, from, widget->mapToGlobal(from), Qt::LeftButton,
+                          Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(widget, &press);
         QMouseEvent move(QEvent::MouseMove, to, widget->mapToGlobal(to), Qt::NoButton,
                          Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(widget, &move);
-        QMouseEvent release(QEvent::MouseButtonRelease, to, widget->mapToGlobal(to),
-                            Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+        QMouseEvent release(QEvent::MouseButtonRelease, to, widget->mapToGlobal(to), Qt::LeftButton,
+                            Qt::NoButton, Qt::NoModifier);
         QApplication::sendEvent(widget, &release);
         Pump();
     }
@@ -99,20 +99,37 @@ TEST_F(DemoTest, RealTypingAndMouseSelectionReachTheEditor) {
     EXPECT_GT(end, 5);
 }
 
-TEST_F(DemoTest, TheScreenshotShowsTheText) {
+TEST_F(DemoTest, TheScreenshotShowsTheTextInTheColoursOfItsLanguage) {
+    // Pixels of a colour in the screenshot.
+    auto count = [&](QRgb color) {
+        QString path = m_dir.filePath("shot.png");
+        EXPECT_TRUE(m_window.SaveScreenshot(path));
+        QImage image(path);
+        EXPECT_EQ(image.width(), m_window.width());
+        int n = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (image.pixel(x, y) == color) ++n;
+        return n;
+    };
+    const QRgb keyword = qRgb(0, 0, 255);
+    const QRgb black = qRgb(0, 0, 0);
+
+    // A .sql file is T-SQL: its keyword is blue, the rest black.
     ASSERT_TRUE(m_window.OpenFile(Write("SELECT 1\r\n")));
     Pump();
-    QString path = m_dir.filePath("shot.png");
-    ASSERT_TRUE(m_window.SaveScreenshot(path));
-    QImage image(path);
-    ASSERT_FALSE(image.isNull());
-    EXPECT_EQ(image.width(), m_window.width());
-    // Dark text pixels stand on the white page.
-    int dark = 0;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            if (qGray(image.pixel(x, y)) < 80) ++dark;
-    EXPECT_GT(dark, 50);
+    EXPECT_EQ(m_window.Language().m_kind, CLanguageChoice::Sql);
+    EXPECT_GT(count(keyword), 20);
+    EXPECT_GT(count(black), 5);
+
+    // A language chosen by the user holds for every file opened later.
+    CLanguageChoice java;
+    ASSERT_TRUE(CLanguageChoice::FromArgument("java", &java));
+    m_window.SetLanguage(java);
+    ASSERT_TRUE(m_window.OpenFile(Write("SELECT 1\r\n")));
+    Pump();
+    EXPECT_EQ(m_window.Language().m_nId, 210u);
+    EXPECT_EQ(count(keyword), 0);
 }
 
 TEST_F(DemoTest, KeyCombinationsAndTheClipboardWorkThroughQt) {

@@ -1,0 +1,270 @@
+// Drawing one line of a coloured zone: the frame of the plain zone (bookmark
+// background, margin, the rest of the row, the selected line end) with the
+// text going out run by run, the selection laid over the runs.
+#include <algorithm>
+#include <cstdlib>
+#include <vector>
+
+#include "colour/TextZoneColor.h"
+#include "platform/Brush.h"
+#include "platform/DC.h"
+#include "platform/ImageList.h"
+#include "platform/Messages.h"
+
+namespace {
+
+int HighestBit(DWORD bits) {
+    int n = -1;
+    for (; bits; bits >>= 1)
+        ++n;
+    return n;
+}
+
+// Dark backgrounds get white text, or the text would vanish into them.
+bool IsDark(COLORREF cr) {
+    return GetRValue(cr) <= 0x80 && GetGValue(cr) <= 0x80 && GetBValue(cr) <= 0x80;
+}
+
+}  // namespace
+
+void CTextZoneColor::DrawMarginMarks(CDC* pDC, DWORD marks, int y, int h) {
+    const int M = GetMarginWidth();
+    // The margin scrolls with the text.
+    const int mx = m_rcText.left - GetHScrollOffset();
+    RECT rcMargin{mx, y, mx + M, y + h};
+    pDC->FillSolidRect(&rcMargin, m_crMargin);
+    CImageList* pImages = GetMarginModeImageList();
+    for (int i = 0; i < 16; ++i) {
+        if (!(marks & (1u << i))) continue;
+        const int image = GetBookmarkImageIndex(i);
+        if (pImages && image >= 0) {
+            ImageList_Draw(pImages, image, pDC, mx, y + h / 4, ILD_NORMAL);
+            continue;
+        }
+        CBrush brush(GetBookmarkColor(i));
+        pDC->SaveDC();
+        pDC->SelectStockObject(BLACK_PEN);
+        pDC->SelectObject(&brush);
+        const int top = y + h / 4 - 1;
+        pDC->RoundRect(mx, top, mx + M, top + h - h / 4, 4, 4);
+        pDC->RestoreDC(-1);
+    }
+}
+
+int CTextZoneColor::FirstVisibleCut(CDC* pDC, const char* p, int n, int x, int A, int B,
+                                    bool bStartSelected, int* pdx) {
+    // The places where the walk draws what it holds: the selection bounds,
+    // and the runs that start outside the selection.
+    const bool bSwaps = A != B;
+    std::vector<int> cuts;
+    for (const auto& def : m_colorDefs) {
+        const int c = def->nPos;
+        if (c <= 0 || c >= n) continue;
+        bool bSelected = bStartSelected;
+        if (bSwaps) bSelected ^= (A >= 0 && A < c) != (B >= 0 && B < c);
+        if (!bSelected) cuts.push_back(c);
+    }
+    if (bSwaps) {
+        if (A > 0 && A < n) cuts.push_back(A);
+        if (B > 0 && B < n) cuts.push_back(B);
+    }
+    std::sort(cuts.begin(), cuts.end());
+    cuts.erase(std::unique(cuts.begin(), cuts.end()), cuts.end());
+    // The last cut whose text ends left of the rectangle, by bisection:
+    // widths grow with the index.
+    const int M = GetMarginWidth();
+    int lo = 0;
+    int hi = static_cast<int>(cuts.size());
+    int best = 0;
+    *pdx = 0;
+    while (lo < hi) {
+        const int mid = (lo + hi) / 2;
+        const int w = GetTextWidth(pDC, p, cuts[static_cast<size_t>(mid)]) - M;
+        if (x + w <= m_rcText.left) {
+            best = cuts[static_cast<size_t>(mid)];
+            *pdx = w;
+            lo = mid + 1;
+        } else {
+            hi = mid;
+        }
+    }
+    return best;
+}
+
+void CTextZoneColor::DrawTextLine(CDC* pDC, int nLine) {
+    // Whatever happens below, the runs of this line are used up.
+    struct FreeRuns {
+        CTextZoneColor* pZone;
+        ~FreeRuns() { pZone->FreeColorDefs(); }
+    } freeRuns{this};
+    if (!pDC) return;
+
+    CStringEx* pLine = nLine >= 0 ? GetLine(nLine) : nullptr;
+    // The place behind the phantom line: nothing can be there.
+    const bool bEmptyPlace = !pLine && (nLine <= 0 || !GetLine(nLine - 1));
+    const DWORD marks = pLine ? (pLine->m_dwBookmarks & 0xFFFF) : 0;
+
+    // A bookmarked line without a margin shows its mark as the background
+    // and its text plain, so that the mark stands out.
+    bool bColour = true;
+    COLORREF crBack = m_crBack;
+    COLORREF crText = m_crText;
+    if (!IsMarginMode() && marks) {
+        crBack = GetBookmarkColor(HighestBit(marks));
+        bColour = false;
+    }
+    if (IsDark(crBack)) crText = RGB(255, 255, 255);
+
+    const int M = GetMarginWidth();
+    const int x = m_rcText.left + M - GetHScrollOffset();
+    const int y = m_rcText.top - GetVScrollOffset() + GetLinePosition(nLine);
+    const int h = GetLineHeight(nLine);
+    const int right = m_rcText.right;
+
+    CBrush backBrush(crBack);
+    if (bEmptyPlace) {
+        RECT rc{x - M, y, right + M, y + h};
+        pDC->FillRect(&rc, &backBrush);
+        return;
+    }
+    if (IsMarginMode()) DrawMarginMarks(pDC, marks, y, h);
+
+    // Selection bounds on this line: two columns (-1 for none) at which the
+    // drawing swaps between selected and plain, and the side it starts on.
+    const bool bBox = m_nSelectionMode == 2;
+    const bool bInSelection = TestSelection() && nLine >= m_nSelStartLine && nLine <= m_nSelEndLine;
+    int A = -1;
+    int B = -1;
+    bool bStartSelected = false;
+    if (bInSelection) {
+        if (bBox) {
+            A = m_nSelStartChar;
+            B = m_nSelEndChar;
+            if (m_nSelStartChar == 0 && m_nSelEndChar > 0) {
+                bStartSelected = true;
+                A = m_nSelEndChar;
+                B = -1;
+            }
+        } else {
+            if (nLine == m_nSelStartLine) {
+                if (m_nSelStartChar == 0)
+                    bStartSelected = true;
+                else
+                    A = m_nSelStartChar;
+            } else {
+                bStartSelected = true;
+            }
+            if (nLine == m_nSelEndLine) (A < 0 ? A : B) = m_nSelEndChar;
+        }
+    }
+
+    int tabStop = GetTabWidth();
+    if (tabStop < 1) {
+        tabStop = m_nCharWidth * std::abs(tabStop);
+        if (tabStop == 0) tabStop = 20;
+    }
+
+    // The text and its runs. Columns of a box line up only on the
+    // space-equivalent text; a free caret's selection may reach beyond the
+    // text, so the text is padded to it. The runs are found on what is drawn.
+    CStringEx padded;
+    CStringEx* pText = pLine;
+    int nPad = -1;
+    if (bInSelection && bBox) {
+        if (pLine) GetSpaceEquivalentLine(&padded, pLine);
+        nPad = m_nSelEndChar + 1;
+    } else if (bInSelection && (m_dwStyle & ZS_FREECARET)) {
+        if (pLine) padded = *pLine;
+        nPad = std::max(m_nSelStartChar, m_nSelEndChar) + 1;
+    }
+    if (nPad >= 0) {
+        if (padded.IsEnded()) padded.discardRight(1);
+        padded.EnsureMinimumLength(nPad);
+        pText = &padded;
+    }
+    if (bColour && pText) DefineColors(nLine, pText);
+    const char* p = pText ? pText->c_str() : "";
+    const int n = pText ? pText->GetLength() - pText->IsEnded() : 0;
+
+    const auto& runs = m_colorDefs;
+    // The first run behind position i.
+    auto runAfter = [&](int i) {
+        return static_cast<size_t>(
+            std::upper_bound(runs.begin(), runs.end(), i,
+                             [](int pos, const auto& def) { return pos < def->nPos; }) -
+            runs.begin());
+    };
+    const bool bSwaps = A != B;
+    int dx = 0;
+    // Each cut is measured from the line's start, so a line of many runs
+    // costs runs times length: only the cuts that can show are walked. A
+    // line scrolled to the left starts at the last cut that ends left of
+    // the rectangle; the walk stops once it has passed the right edge.
+    const int start =
+        GetHScrollOffset() > 0 ? FirstVisibleCut(pDC, p, n, x, A, B, bStartSelected, &dx) : 0;
+
+    bool bSelected = bStartSelected;
+    if (bSwaps) bSelected ^= (A >= 0 && A < start) != (B >= 0 && B < start);
+    pDC->SetTextColor(bSelected ? m_crSelText : crText);
+    pDC->SetBkColor(bSelected ? m_crSelBack : crBack);
+    size_t r = 0;  // the next run to take effect
+    if (!bSelected) {
+        r = runAfter(start);
+        if (r > 0) pDC->SetTextColor(runs[r - 1]->crColor);
+    }
+
+    int from = start;  // the first byte not drawn yet
+    bool bPastRight = false;
+    auto flush = [&](int i) {
+        if (i > from) {
+            m_GraphicText(pDC, x + dx, y, p + from, i - from, 1, &tabStop, x);
+            // Measured afresh from the line's start, so that tabs stay right
+            // across colour changes.
+            dx = GetTextWidth(pDC, p, i) - M;
+            bPastRight = x + dx >= m_rcText.right;
+        }
+        from = i;
+    };
+    for (int i = start; i <= n && !bPastRight; ++i) {
+        // A bound at the very end still swaps, so that a selection that
+        // stops at the end of the text does not take the line end along.
+        if ((i == A || i == B) && bSwaps) {
+            flush(i);
+            bSelected = !bSelected;
+            pDC->SetTextColor(bSelected ? m_crSelText : crText);
+            pDC->SetBkColor(bSelected ? m_crSelBack : crBack);
+            if (!bSelected) {
+                // Back to plain: the colour of the run in force here.
+                r = runAfter(i);
+                if (r > 0) pDC->SetTextColor(runs[r - 1]->crColor);
+            }
+        } else if (!bSelected && r < runs.size() && runs[r]->nPos == i && i < n) {
+            flush(i);
+            pDC->SetTextColor(runs[r++]->crColor);
+        }
+        if (i == n) flush(i);
+    }
+
+    CBrush selBrush(m_crSelBack);
+    if (A >= 0 && A == B) {
+        // A box without width is the box caret: a bar over its column.
+        const int column = x + GetTextWidth(pDC, p, A) - M;
+        RECT bar{column - 1, y, column + 1, y + h};
+        pDC->FillRect(&bar, &selBrush);
+    }
+    if (x - M + dx < right) {
+        RECT rest{x + dx, y, right + M, y + h};
+        pDC->FillRect(&rest, &backBrush);
+    }
+    if (bSelected && !bBox) {
+        // The selection goes on past the text: to the edge, or one
+        // character for the selected line end.
+        if (m_dwStyle & ZS_SELTOEDGE) {
+            RECT block{x + dx, y, right - M, y + h};
+            pDC->FillRect(&block, &selBrush);
+        } else if (pLine && pLine->IsEnded()) {
+            RECT block{x + dx, y, x + dx + m_nCharWidth, y + h};
+            pDC->FillRect(&block, &selBrush);
+        }
+    }
+}

@@ -1,0 +1,77 @@
+// Keyword tables: UDB SQL.
+// Order matters: a word taken by the keyword pass is gone for the words
+// behind it, so an entry that holds another stands first. Repeated words
+// and trailing blanks are part of the data.
+#include "keywords/KeywordTables.h"
+
+const char* szKeyWordUDB_1[] = {
+    "access", "action", "activate", "add", "after", "age", "alias", "all", "allocate", "allow",
+    "alter", "alterin", "always", "and", "any", "append", "appl_id", "appl_name", "as", "asc",
+    "assignment", "associate", "atomic", "attribute", "attributes", "authorization", "auth_id",
+    "authid", "autostart", "before", "begin", "between", "bind", "bindadd", "bit", "blocked",
+    "buffer", "bufferpool", "bufferpools", "buffersize", "by", "c", "cache", "call", "called",
+    "caller", "capture", "cardinality", "cascade", "cascaded", "case", "cast", "change",
+    "changes", "check", "checked", "client", "close", "cluster", "cobol", "collect", "column",
+    "columns", "comm", "comment", "commit", "compact", "comparisons", "concat", "condition",
+    "connect", "connections", "connectopt", "conservative", "constraint", "constraints",
+    "containers", "contains", "continue", "control", "count", "count_big", "cpu", "create",
+    "createin", "create_not_fenced", "createtab", "cube", "current", "cursor", "cursors",
+    "data", "database", "day", "days", "db", "dbadm", "dbinfo", "db2dari", "db2genrl",
+    "db2general", "db2options", "db2spl", "db2sql", "deadlocks", "declare", "default",
+    "defaults", "definition", "degree", "deferred", "delete", "desc", "detailed",
+    "deterministic", "device", "diagnostics", "disable", "disallow", "distinct", "distribution",
+    "do", "drop", "dropin", "dropped", "dynamic", "each", "else", "elseif", "empty", "enable",
+    "end", "escape", "eur", "evaluate", "event", "exact", "except", "exception", "exclude",
+    "excluding", "exclusive", "execute", "exists", "exit", "expand", "explain", "expression",
+    "extend", "extended", "extension", "extentsize", "external", "federated", "fenced", "fetch",
+    "file", "filter", "final", "first", "flush", "following", "for", "force", "foreign",
+    "found", "from", "fs", "full", "function", "g", "general", "generate", "generated", "get",
+    "global", "goto", "grant", "group", "grouping", "handler", "hashing", "having", "hidden",
+    "hierarchy", "hpj", "hold", "hour", "hours", "id", "identity", "if", "immediate",
+    "implicit_schema", "in", "include", "including", "increment", "incremental", "index",
+    "indexes", "indicator", "infix", "inherit", "initially", "initial_insts", "initial_ios",
+    "inline", "inner", "inout", "input", "insert", "instantiable", "insts_per_argbyte",
+    "insts_per_invoc", "integrity", "intersect", "into", "io", "ios_per_argbyte",
+    "ios_per_invoc", "is", "iso", "iterate", "java", "java_v50", "jis", "join", "k", "key",
+    "keys", "language", "last", "leave", "left", "length", "library", "like", "link",
+    "linktype", "load", "local", "locator", "locators", "lock", "locks", "locksize", "logged",
+    "longvar", "loop", "m", "main_prog", "managed", "manualstart", "mapping", "maxfiles",
+    "maxfilesize", "message_text", "method", "methods", "microsecond", "microseconds",
+    "minpctused", "minute", "minutes", "mode", "modifies", "monitor", "month", "months", "name",
+    "new", "new_table", "nickname", "no", "node", "nodes", "nodegroup", "nonblocked", "node",
+    "execnode", "none", "not", "null", "nulls", "num_freqvalues", "num_quantiles", "of", "off",
+    "old", "old_table", "ole", "oledb", "on", "once", "online", "only", "open", "optimization",
+    "optimize", "option", "options", "or", "order", "out", "outer", "over", "overhead", "p",
+    "package", "pagesize", "parallel", "parameter", "passthru", "password", "path", "partition",
+    "partitioning", "pctfree", "pending", "percent_argbytes", "permission", "pipe", "plan",
+    "preceding", "predicates", "prefetchsize", "prepare", "preserve", "primary", "privileges",
+    "procedure", "program", "protocol", "public", "query", "queryno", "querytag", "range",
+    "rate", "ratio", "read", "reads", "recommend", "reconcile", "recovery", "recreate",
+    "references", "referencing", "refresh", "regular", "release", "remain", "remote", "rename",
+    "repeat", "replace", "replicated", "reset", "resignal", "resize", "resolve", "restore",
+    "restrict", "result", "result_set_locator", "retain", "return", "returns", "return_status",
+    "reverse", "revoke", "right", "rollback", "rollup", "routine", "row", "row_count", "rows",
+    "run", "s", "sampled", "savepoint", "scans", "schema", "scope", "scratchpad", "search",
+    "second", "seconds", "select", "selection", "selective", "selectivity", "self", "server",
+    "set", "sets", "setting", "share", "shrlevel", "signal", "simple", "size", "snapshot",
+    "some", "source", "specific", "specification", "sql", "sqlerror", "sqlexception",
+    "sqlwarning", "sqlid", "sqlstate", "start", "state", "statement", "statements",
+    "statistics", "storage", "style", "sub", "summary", "switch", "synonym", "system", "table",
+    "tables", "tablespace", "tablespaces", "target", "template", "temporary", "then", "through",
+    "timezone", "to", "transactions", "transferrate", "transform", "transforms", "translate",
+    "treat", "trigger", "type", "unbounded", "unchecked", "under", "undo", "union", "unique",
+    "unlink", "until", "update", "url", "usa", "use", "user", "using", "value", "values",
+    "variant", "version", "view", "volatile", "when", "where", "while", "with", "without",
+    "work", "wrapper", "write", "year", "years", "yes", "",
+};
+
+const char* szKeyWordUDB_2[] = {
+    "bigint", "blob", "char", "character", "clob", "datalink", "date", "dbclob", "dec",
+    "decimal", "double", "float", "graphic", "int", "integer", "long", "num", "numeric",
+    "precision", "real", "ref", "smallint", "timestamp", "time", "varchar", "vargraphic",
+    "varying", "",
+};
+
+const char* szKeyWordUDB_3[] = {
+    "concat", "",
+};
