@@ -1,4 +1,5 @@
 #include "textzone/StringEx.h"
+#include "textzone/TextBytes.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -7,9 +8,7 @@ namespace {
 
 constexpr char kLineEnd = 13;
 
-bool IsBlank(char c) {
-    return c == ' ' || c == '\t';
-}
+using textbytes::IsBlank;
 
 // Taken as unsigned so that no byte of 128 or above can pass for one.
 bool IsWrapDelimiter(char c) {

@@ -43,6 +43,33 @@ constexpr int TZ_TO_END = 0x7FFFFFFF;  // a last line meaning "to the end"
 // can be: places further out come from hosts and would only overflow sums.
 constexpr int TZ_MAX_PLACE = TZ_MAX_PARAGRAPH_LINE;
 
+// Selection modes.
+constexpr WORD TZ_SEL_LINES = 0;
+constexpr WORD TZ_SEL_STREAM = 1;
+constexpr WORD TZ_SEL_BOX = 2;
+
+// Kinds of an edit, as StartRegister files them for undo.
+constexpr short TZ_EDIT_TYPING = 1;
+constexpr short TZ_EDIT_DELETE = 2;
+constexpr short TZ_EDIT_BACKSPACE = 3;
+constexpr short TZ_EDIT_DELETE_SELECTION = 4;
+constexpr short TZ_EDIT_CUT = 5;
+constexpr short TZ_EDIT_PASTE = 6;
+constexpr short TZ_EDIT_REPLACE = 7;
+constexpr short TZ_EDIT_REPLACE_ALL = static_cast<short>(0x8008);
+constexpr short TZ_EDIT_INDENT = 9;
+constexpr short TZ_EDIT_UNINDENT = 10;
+constexpr short TZ_EDIT_DRAG = 11;
+
+// Kinds of an undo unit, what RegisterUnit records.
+constexpr WORD TZ_UNIT_DELETED_TEXT = 1;  // text a deletion took, to put back
+constexpr WORD TZ_UNIT_CHAR_BEFORE = 2;   // the byte Backspace takes
+constexpr WORD TZ_UNIT_CHAR_AT = 3;       // the byte Delete takes
+constexpr WORD TZ_UNIT_TYPED = 4;         // a range typed, to take out
+constexpr WORD TZ_UNIT_INSERTED = 5;      // a range inserted, to take out
+constexpr WORD TZ_UNIT_LINES = 6;         // lines before a box edit; restoring selects
+constexpr WORD TZ_UNIT_LINES_CARET = 7;   // the same; restoring leaves a caret
+
 // Text flags of the readers.
 constexpr WORD TF_LF = 1;              // line end LF (the two low bits)
 constexpr WORD TF_CRLF = 2;            // line end CR LF; other values give CR
@@ -223,7 +250,7 @@ public:
     // Plain members.
     // Whether undo records places as text offsets: with wrapped paragraphs
     // line positions shift on every rewrap. Box mode never meets wrap.
-    bool UndoByOffsets() const { return (m_dwStyle & ZS_PARAGRAPH) && m_nSelectionMode != 2; }
+    bool UndoByOffsets() const { return (m_dwStyle & ZS_PARAGRAPH) && m_nSelectionMode != TZ_SEL_BOX; }
     // The selected text as GetSelectedText writes it, in a buffer of just
     // the room it needs.
     std::string GetSelectedTextString(WORD wFlags);
@@ -322,7 +349,7 @@ public:
     int m_bCaretShown = 0;
     int m_bMouseSelecting = 0;
     int m_bNoBlock = 0;
-    WORD m_nSelectionMode = 1;  // 0 lines, 1 stream, 2 box
+    WORD m_nSelectionMode = TZ_SEL_STREAM;
     CScrollBar* m_pHScrollBar = nullptr;
     CScrollBar* m_pVScrollBar = nullptr;
     int m_nLinesPerUnit = 1;

@@ -15,7 +15,7 @@ long long EndOf(const CEditBlk& blk) {
 // Marks a line as the head of an open block. A head that another block
 // keeps closed stays closed: the two head bits exclude each other.
 void MarkOpenHead(CStringEx* pLine) {
-    if (pLine && !(pLine->m_dwBlockFlags & 2)) pLine->m_dwBlockFlags |= 1;
+    if (pLine && !(pLine->m_dwBlockFlags & BF_CLOSED_HEAD)) pLine->m_dwBlockFlags |= BF_OPEN_HEAD;
 }
 
 // A range of lines to redraw, empty until the first line is added.
@@ -34,9 +34,9 @@ void ToggleHeadAtCaret(CTextZone& zone) {
     const int nLine = zone.m_nSelStartLine;
     CStringEx* pLine = zone.GetLine(nLine);
     if (!pLine) return;
-    if ((pLine->m_dwBlockFlags & 3) == 1)
+    if ((pLine->m_dwBlockFlags & (BF_OPEN_HEAD | BF_CLOSED_HEAD)) == 1)
         zone.CloseBlock(nLine, 1);
-    else if ((pLine->m_dwBlockFlags & 3) == 2)
+    else if ((pLine->m_dwBlockFlags & (BF_OPEN_HEAD | BF_CLOSED_HEAD)) == 2)
         zone.OpenBlock(nLine, 1);
 }
 
@@ -162,9 +162,9 @@ void CTextZone::EndEditBlockInput() {
                     CStringEx* pLine = GetLine(n);
                     if (!pLine) break;
                     if (bGrown)
-                        pLine->m_dwBlockFlags |= 4;
+                        pLine->m_dwBlockFlags |= BF_HIDDEN;
                     else if (!hiddenElsewhere(n, pNew))
-                        pLine->m_dwBlockFlags &= ~4u;
+                        pLine->m_dwBlockFlags &= ~BF_HIDDEN;
                     range.Add(n, n);
                 }
             }
@@ -180,12 +180,12 @@ void CTextZone::EndEditBlockInput() {
                 range.Add(nLine, nLine);
             }
             if (CStringEx* pLine = GetLine(nLine)) {
-                pLine->m_dwBlockFlags &= ~1u;
+                pLine->m_dwBlockFlags &= ~BF_OPEN_HEAD;
                 // An alternate block closed on this line keeps its head.
                 bool bAltHead =
                     std::any_of(m_altBlocks.begin(), m_altBlocks.end(),
                                 [nLine](const auto& p) { return p->m_nFirstLine == nLine; });
-                if (!bAltHead) pLine->m_dwBlockFlags &= ~2u;
+                if (!bAltHead) pLine->m_dwBlockFlags &= ~BF_CLOSED_HEAD;
             }
             ++itOld;
         }

@@ -45,7 +45,7 @@ void CTextZone::DrawCaret(int bScroll, int bHorizontal) {
 
     int line = GetSelMobileLine();
     int index = GetSelMobileChar();
-    const bool bColumns = bSelection && m_nSelectionMode == 2;
+    const bool bColumns = bSelection && m_nSelectionMode == TZ_SEL_BOX;
     // A stream that ends at the start of a line selects nothing there, so
     // there is nothing on that line to bring into view.
     if (bSelection && !bColumns && index == 0 && line == m_nSelEndLine && line > m_nSelStartLine)
@@ -182,7 +182,7 @@ LONG CTextZone::GetLinePosition(int nLine) {
 
 int CTextZone::GetLineHeight(int nLine) {
     CStringEx* line = GetLine(nLine);
-    if (line && (line->m_dwBlockFlags & 4)) return 0;
+    if (line && (line->m_dwBlockFlags & BF_HIDDEN)) return 0;
     return m_nLineHeight;
 }
 

@@ -73,7 +73,7 @@ void CTextZone::HandleChar(UINT nChar, UINT, UINT) {
     if (nChar < 32 || nChar > 255 || m_bReadOnly) return;
     const char c = static_cast<char>(nChar);
     SetModify(1);
-    StartRegister(1);
+    StartRegister(TZ_EDIT_TYPING);
 
     if (IsBoxCaret()) {
         // A tall caret types the character on each of its lines.
@@ -138,7 +138,7 @@ void CTextZone::HandleChar(UINT nChar, UINT, UINT) {
             m_nSelEndLine = line;
             m_nSelStartChar = m_nSelEndChar = ch + 1;
             KeyRewrapTyped(line, created, &first, &last);
-            RegisterUnit(4);
+            RegisterUnit(TZ_UNIT_TYPED);
         }
     }
     EndRegister();

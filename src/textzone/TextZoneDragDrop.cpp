@@ -11,7 +11,7 @@
 #include "textzone/TextZone.h"
 
 bool CTextZone::IsOleDragAllowed(UINT, POINT* pt) {
-    return m_bDragDrop && TestSelection() && pt && PtInSelection(pt) && m_nSelectionMode != 2 &&
+    return m_bDragDrop && TestSelection() && pt && PtInSelection(pt) && m_nSelectionMode != TZ_SEL_BOX &&
            GetKeyState(VK_MENU) >= 0;
 }
 
@@ -52,7 +52,7 @@ int CTextZone::HandleOleDrag(UINT, POINT* pt) {
     m_bOleDragSource = 0;
     if (effect != DROPEFFECT_NONE) {
         if (droppedElsewhere && (effect & DROPEFFECT_MOVE) && !m_bReadOnly) {
-            StartRegister(11);
+            StartRegister(TZ_EDIT_DRAG);
             DeleteSelection(1);
             EndRegister();
             SetModify(1);
@@ -98,7 +98,7 @@ bool CTextZone::DoOlePasteItem(const char* pszText, POINT* pt) {
         int line = GetLineUnderPoint(pt);
         int index = GetCharIndexFromPoint(GetLine(line), pt);
         CancelSelection(1);
-        StartRegister(11);
+        StartRegister(TZ_EDIT_DRAG);
         SetSelection(line, line, index, index, 0, 0);
         InsertText(pszText, 1, 1, 1);
         EndRegister();

@@ -34,8 +34,8 @@ int CountLineEnds(const char* p) {
 }  // namespace
 
 int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHorizontal) {
-    const bool box = m_nSelectionMode == 2;
-    const bool stream = m_nSelectionMode == 1;
+    const bool box = m_nSelectionMode == TZ_SEL_BOX;
+    const bool stream = m_nSelectionMode == TZ_SEL_STREAM;
     const bool paragraphs = (m_dwStyle & ZS_PARAGRAPH) != 0;
 
     int hadSelection = TestSelection();
@@ -77,7 +77,7 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
         const int startLine = m_nSelStartLine;
         CStringEx* pAbove = startLine > 0 && !GetLine(startLine) ? GetLine(startLine - 1) : nullptr;
         if (pAbove && !pAbove->IsEnded()) --m_nSelStartLine;
-        RegisterUnit(7);
+        RegisterUnit(TZ_UNIT_LINES_CARET);
         m_nSelStartLine = startLine;
         m_nSelStartChar = m_nSelEndChar = startChar;
         m_nSelEndLine = endLine;
@@ -238,7 +238,7 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
         }
     }
     if (stream) {
-        RegisterUnit(5);
+        RegisterUnit(TZ_UNIT_INSERTED);
     } else if (!box) {
         // Line mode inserted nothing.
     } else if (m_pCurrentOperation) {
@@ -262,28 +262,28 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
 void CTextZone::DeleteSelection(int bUpdate) {
     m_nGoalX = -1;
     if (!TestSelection()) return;
-    const bool box = m_nSelectionMode == 2;
+    const bool box = m_nSelectionMode == TZ_SEL_BOX;
     if (box && m_nSelStartChar == m_nSelEndChar) return;
     // A start behind a line's end pads the line up to it: recorded as typed
     // blanks, so that undo takes them out again.
-    CStringEx* pStart = m_nSelectionMode == 1 ? GetLine(m_nSelStartLine) : nullptr;
+    CStringEx* pStart = m_nSelectionMode == TZ_SEL_STREAM ? GetLine(m_nSelStartLine) : nullptr;
     if (pStart && m_nSelStartChar > TextLength(*pStart) && !UndoByOffsets()) {
         const int endLine = m_nSelEndLine, endChar = m_nSelEndChar;
         m_nSelRootLine = m_nSelEndLine = m_nSelStartLine;
         m_nSelRootChar = TextLength(*pStart);
         m_nSelEndChar = m_nSelStartChar;
         PadText(*pStart, m_nSelStartChar);
-        RegisterUnit(4);
+        RegisterUnit(TZ_UNIT_TYPED);
         m_nSelEndLine = endLine;
         m_nSelEndChar = endChar;
     }
     // Line mode removes nothing, so there is nothing to record either.
-    if (m_nSelectionMode != 0) RegisterUnit(box ? 6 : 1);
+    if (m_nSelectionMode != TZ_SEL_LINES) RegisterUnit(box ? TZ_UNIT_LINES : TZ_UNIT_DELETED_TEXT);
     HideCaret();
 
     int first = 0;
     int last = 0;
-    if (m_nSelectionMode == 1) {
+    if (m_nSelectionMode == TZ_SEL_STREAM) {
         const bool paragraphs = (m_dwStyle & ZS_PARAGRAPH) != 0;
         int startLine = m_nSelStartLine;
         int startChar = m_nSelStartChar;

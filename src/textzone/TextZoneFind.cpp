@@ -37,7 +37,7 @@ int CTextZone::FindTextFromCurrentPos(const char* pszText, int bForward, int bMa
 
     // The selection becomes an empty stream selection at the given place.
     auto collapseTo = [&](int nLine, int nChar) {
-        m_nSelectionMode = 1;
+        m_nSelectionMode = TZ_SEL_STREAM;
         SetSelection(nLine, nLine, nChar, nChar, 0, 0);
         RedrawLines(oldStartLine, oldEndLine, 1);
         DrawCaret(1, 1);
@@ -106,7 +106,7 @@ int CTextZone::FindTextFromCurrentPos(const char* pszText, int bForward, int bMa
             nEndLine = L + 1;
             nEndChar = 0;
         }
-        m_nSelectionMode = 1;
+        m_nSelectionMode = TZ_SEL_STREAM;
         SetSelection(L, nEndLine, nFound, nEndChar, 0, 0);
         RedrawLines(std::min(L, oldStartLine), std::max(nEndLine, oldEndLine), 1);
         DrawCaret(1, 1);
@@ -133,7 +133,7 @@ void CTextZone::MakeUpperOrLower(int bLower) {
         else
             CharUpperA(buffer.data());
         HideCaret();
-        StartRegister(1);
+        StartRegister(TZ_EDIT_TYPING);
         InsertText(buffer.data(), 1, 1, 1);
         EndRegister();
         DrawCaret(1, 1);
@@ -159,9 +159,9 @@ void CTextZone::MakeUpperOrLower(int bLower) {
             SetSelection(nLine, nLine, nChar + 1, nChar + 1, 0, 0);
         } else {
             // Replaced as a one-byte stream selection: the caret ends up behind it.
-            m_nSelectionMode = 1;
+            m_nSelectionMode = TZ_SEL_STREAM;
             SetSelection(nLine, nLine, nChar, nChar + 1, 0, 0);
-            StartRegister(1);
+            StartRegister(TZ_EDIT_TYPING);
             InsertText(text, 0, 1, 1);
             EndRegister();
             RedrawLines(nLine, nLine, 1);

@@ -43,7 +43,7 @@ void CTextZone::SetSelection(LONG lStart, LONG lEnd, int nStartChar, int nEndCha
 
     int startLine, endLine, startChar, endChar;
     if (wMode == 1) {
-        m_nSelectionMode = 1;
+        m_nSelectionMode = TZ_SEL_STREAM;
         bool startFound = false;
         bool endFound = false;
         startLine = endLine = startChar = endChar = 0;
@@ -149,7 +149,7 @@ short CTextZone::GetSelection(LONG* plStart, LONG* plEnd, int* pnStartChar, int*
     } else if (wMode == 2) {
         if (plStart) *plStart = m_nSelStartLine;
         if (plEnd) *plEnd = m_nSelEndLine;
-        bool box = m_nSelectionMode == 2;
+        bool box = m_nSelectionMode == TZ_SEL_BOX;
         if (pnStartChar) *pnStartChar = box ? m_nSelStartChar : 0;
         if (pnEndChar) *pnEndChar = box ? m_nSelEndChar : TZ_TO_END;
     } else {
@@ -165,8 +165,8 @@ void CTextZone::GetSelectedText(char* pBuffer, LONG lSize, WORD wFlags) {
     if (!pBuffer || lSize < 1) return;
     LONG count = 0;
     if (TestSelection()) {
-        bool stream = m_nSelectionMode == 1;
-        bool box = m_nSelectionMode == 2;
+        bool stream = m_nSelectionMode == TZ_SEL_STREAM;
+        bool box = m_nSelectionMode == TZ_SEL_BOX;
         // Whole lines stop short of the end line.
         int lastTaken = stream || box ? m_nSelEndLine : m_nSelEndLine - 1;
         bool paragraphs = (m_dwStyle & ZS_PARAGRAPH) != 0;
@@ -197,8 +197,8 @@ void CTextZone::GetSelectedText(char* pBuffer, LONG lSize, WORD wFlags) {
 
 LONG CTextZone::GetSelectedTextLength(WORD wFlags) {
     if (!TestSelection()) return 0;
-    bool stream = m_nSelectionMode == 1;
-    bool box = m_nSelectionMode == 2;
+    bool stream = m_nSelectionMode == TZ_SEL_STREAM;
+    bool box = m_nSelectionMode == TZ_SEL_BOX;
     int lastTaken = stream || box ? m_nSelEndLine : m_nSelEndLine - 1;
     bool paragraphs = (m_dwStyle & ZS_PARAGRAPH) != 0;
     int endBytes = (wFlags & 3) == TF_CRLF ? 2 : 1;

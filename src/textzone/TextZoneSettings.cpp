@@ -50,7 +50,7 @@ void CTextZone::SetFont(HFONT hFont) {
         DeleteDC(hDC);
     }
     // Box columns are only meaningful in a fixed pitch.
-    if (m_bProportional && m_nSelectionMode == 2) SetSelectionMode(1);
+    if (m_bProportional && m_nSelectionMode == TZ_SEL_BOX) SetSelectionMode(TZ_SEL_STREAM);
 }
 
 HFONT CTextZone::GetFont() {
@@ -90,7 +90,7 @@ void CTextZone::SetTabConvert(int bTabConvert) {
     }
     if (m_pWnd) {
         FreeAllOperations();
-        SetSelectionMode(1);
+        SetSelectionMode(TZ_SEL_STREAM);
         RebuildAllParagraphs();
         RedrawTextZone();
     }

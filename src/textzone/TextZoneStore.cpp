@@ -361,7 +361,7 @@ void CTextZone::ShowOrphanedLines(int nFrom, int nTo) {
         CStringEx* pLine = GetLine(n);
         if (!pLine) break;
         if (!hiddenBy(m_editBlocks, n, true) && !hiddenBy(m_altBlocks, n, false))
-            pLine->m_dwBlockFlags &= ~4u;
+            pLine->m_dwBlockFlags &= ~BF_HIDDEN;
     }
 }
 

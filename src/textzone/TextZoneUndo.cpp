@@ -12,16 +12,9 @@ namespace {
 
 using InfoList = std::vector<std::unique_ptr<char[]>>;
 
-bool IsBlank(char c) {
-    return c == ' ' || c == '\t';
-}
 
 bool OnlyBlanks(const CStringEx& line) {
-    const char* p = line.c_str();
-    int n = line.GetLength() - line.IsEnded();
-    for (int i = 0; i < n; ++i)
-        if (!IsBlank(p[i])) return false;
-    return true;
+    return textbytes::OnlyBlanks(line, textbytes::TextLength(line));
 }
 
 // With wrapped paragraphs line positions shift on every rewrap, so units
@@ -53,7 +46,7 @@ void PlaceFromSelection(const CTextZone& zone, CUndoUnit& unit) {
 // Kind 1: the selection about to be deleted.
 bool RecordSelectedText(CTextZone& zone, CUndoUnit& unit) {
     if (!zone.TestSelection()) return false;
-    if (zone.m_nSelectionMode == 2 && zone.m_nSelStartLine != zone.m_nSelEndLine &&
+    if (zone.m_nSelectionMode == TZ_SEL_BOX && zone.m_nSelStartLine != zone.m_nSelEndLine &&
         zone.m_nSelStartChar == zone.m_nSelEndChar)
         return false;  // a box caret deletes nothing
 
@@ -61,7 +54,7 @@ bool RecordSelectedText(CTextZone& zone, CUndoUnit& unit) {
     // line's end (free caret, or the line behind the text) holds no blanks,
     // and the end at a raw length takes the line end as the deletion does.
     const int savedEndLine = zone.m_nSelEndLine, savedEndChar = zone.m_nSelEndChar;
-    if (zone.m_nSelectionMode == 1) {
+    if (zone.m_nSelectionMode == TZ_SEL_STREAM) {
         CStringEx* pEnd = zone.GetLine(savedEndLine);
         CStringEx* pAbove = savedEndLine > 0 ? zone.GetLine(savedEndLine - 1) : nullptr;
         if (!pEnd && pAbove && !pAbove->IsEnded())
@@ -181,7 +174,7 @@ bool RecordLines(CTextZone& zone, CUndoUnit& unit) {
     WORD mode = zone.m_nSelectionMode;
     zone.m_nSelEndLine = endLine + 1;
     zone.m_nSelStartChar = zone.m_nSelEndChar = 0;
-    zone.m_nSelectionMode = 1;
+    zone.m_nSelectionMode = TZ_SEL_STREAM;
     LONG size = zone.GetSelectedTextLength(TF_CRLF) + 3;
     zone.m_nSelEndLine = endLine;
     zone.m_nSelStartChar = startChar;
@@ -222,17 +215,17 @@ void CTextZone::RegisterUnit(WORD wKind) {
 
     bool keep = true;
     switch (wKind) {
-        case 1:
+        case TZ_UNIT_DELETED_TEXT:
             keep = RecordSelectedText(*this, unit);
             break;
-        case 2:
+        case TZ_UNIT_CHAR_BEFORE:
             keep = RecordCharBefore(*this, unit);
             break;
-        case 3:
+        case TZ_UNIT_CHAR_AT:
             keep = RecordCharAt(*this, unit);
             break;
-        case 4:
-        case 5:
+        case TZ_UNIT_TYPED:
+        case TZ_UNIT_INSERTED:
             // Registered after the insertion: the range from the root to the
             // selection end is what the edit put in.
             if (ParagraphForm(*this)) {
@@ -245,14 +238,14 @@ void CTextZone::RegisterUnit(WORD wKind) {
                 unit.m_nFirstChar = m_nSelRootChar;
                 unit.m_nLastLine = m_nSelEndLine;
                 unit.m_nLastChar = m_nSelEndChar;
-                if (wKind == 5 && m_nSelectionMode == 2) {
+                if (wKind == TZ_UNIT_INSERTED && m_nSelectionMode == TZ_SEL_BOX) {
                     unit.m_nFirstChar = ComputeBlockUnit(m_nSelRootLine, m_nSelRootChar);
                     unit.m_nLastChar = ComputeBlockUnit(m_nSelEndLine, m_nSelEndChar);
                 }
             }
             break;
-        case 6:
-        case 7:
+        case TZ_UNIT_LINES:
+        case TZ_UNIT_LINES_CARET:
             keep = RecordLines(*this, unit);
             break;
         default:

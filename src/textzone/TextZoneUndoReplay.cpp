@@ -9,14 +9,13 @@
 #include "platform/Messages.h"
 #include "platform/Wnd.h"
 #include "textzone/TextZone.h"
+#include "textzone/TextBytes.h"
 
 namespace {
 
 using OperationList = std::list<std::unique_ptr<CUndoOperation>>;
 
-bool IsBlank(char c) {
-    return c == ' ' || c == '\t';
-}
+using textbytes::IsBlank;
 
 bool ParagraphForm(const CTextZone& zone) {
     return zone.UndoByOffsets();
@@ -103,7 +102,7 @@ void AfterBoxRestore(CTextZone& zone, const CUndoUnit& unit, int oldFirst, int o
 }
 
 bool IsBlockIndent(const CUndoOperation& op) {
-    return op.m_wType == 9 || op.m_wType == 10;
+    return op.m_wType == TZ_EDIT_INDENT || op.m_wType == TZ_EDIT_UNINDENT;
 }
 
 // Undo and Redo: the newest operation of one list is replayed, and what the
@@ -127,8 +126,8 @@ void Replay(CTextZone& zone, OperationList& from, OperationList& to) {
     pOperation.reset();
     zone.m_bUndoing = 0;
 
-    if (oldMode == 1 && zone.m_nSelectionMode != 1 && !zone.TestSelection())
-        zone.SetSelectionMode(1);
+    if (oldMode == TZ_SEL_STREAM && zone.m_nSelectionMode != TZ_SEL_STREAM && !zone.TestSelection())
+        zone.SetSelectionMode(TZ_SEL_STREAM);
 }
 
 }  // namespace
@@ -167,10 +166,12 @@ void CTextZone::PerformUndoing(CUndoOperation* pOperation) {
             oldLast = m_nSelEndLine;
         }
         // A retyped key works on a caret, whatever the mode was.
-        m_nSelectionMode = unit.m_wType == 2 || unit.m_wType == 3 ? 1 : unit.m_wSelMode;
+        m_nSelectionMode = unit.m_wType == TZ_UNIT_CHAR_BEFORE || unit.m_wType == TZ_UNIT_CHAR_AT
+                               ? TZ_SEL_STREAM
+                               : unit.m_wSelMode;
 
         switch (unit.m_wType) {
-            case 1:
+            case TZ_UNIT_DELETED_TEXT:
                 CaretToFirstPlace(*this, unit);
                 if (!unit.m_hText.empty()) InsertText(unit.m_hText.c_str(), 0, 1, 1);
                 SelectPlace(*this, unit);
@@ -178,8 +179,8 @@ void CTextZone::PerformUndoing(CUndoOperation* pOperation) {
                 RedrawLines(std::min(oldFirst, m_nSelStartLine), TZ_TO_END, 0);
                 break;
 
-            case 2:
-            case 3:
+            case TZ_UNIT_CHAR_BEFORE:
+            case TZ_UNIT_CHAR_AT:
                 CaretToFirstPlace(*this, unit);
                 // The key handlers record the inverse themselves, and while
                 // undoing they add no automatic indentation.
@@ -195,38 +196,38 @@ void CTextZone::PerformUndoing(CUndoOperation* pOperation) {
                             0);
                 break;
 
-            case 4:
-            case 5:
-                if (unit.m_wType == 4) m_nSelectionMode = 1;
+            case TZ_UNIT_TYPED:
+            case TZ_UNIT_INSERTED:
+                if (unit.m_wType == TZ_UNIT_TYPED) m_nSelectionMode = TZ_SEL_STREAM;
                 SelectPlace(*this, unit);
                 DeleteSelection(1);
                 m_nSelectionMode = unit.m_wSelMode;
                 RedrawLines(std::min(oldFirst, m_nSelStartLine), TZ_TO_END, 0);
                 break;
 
-            case 6:
+            case TZ_UNIT_LINES:
                 SelectPlace(*this, unit);
-                RegisterUnit(7);
+                RegisterUnit(TZ_UNIT_LINES_CARET);
                 if (!unit.m_hText.empty()) RestoreLines(*this, unit);
                 SelectPlace(*this, unit);
                 if (IsBlockIndent(op)) {
                     // An indented block stays selected as whole lines.
-                    m_nSelectionMode = 1;
+                    m_nSelectionMode = TZ_SEL_STREAM;
                     ++m_nSelEndLine;
                     m_nSelStartChar = m_nSelEndChar = 0;
                 }
                 AfterBoxRestore(*this, unit, oldFirst, oldLast);
                 break;
 
-            case 7:
+            case TZ_UNIT_LINES_CARET:
                 SelectPlace(*this, unit);
-                RegisterUnit(6);
+                RegisterUnit(TZ_UNIT_LINES);
                 if (!unit.m_hText.empty()) RestoreLines(*this, unit);
                 m_nSelStartLine = m_nSelEndLine = unit.m_nFirstLine;
                 m_nSelStartChar = m_nSelEndChar =
                     ComputeCharIndex(unit.m_nFirstLine, unit.m_nFirstChar);
                 if (IsBlockIndent(op)) {
-                    m_nSelectionMode = 1;
+                    m_nSelectionMode = TZ_SEL_STREAM;
                     m_nSelEndLine = unit.m_nLastLine + 1;
                     m_nSelStartChar = m_nSelEndChar = 0;
                 }
