@@ -19,19 +19,26 @@ public:
     // A number that is usually small and in range, sometimes far out of it.
     int Position(int nNear) {
         switch (Below(8)) {
-            case 0: return -1;
-            case 1: return -2 - Word();
-            case 2: return 0x7FFFFFFF;
-            case 3: return static_cast<int>(0x80000000u + static_cast<unsigned>(Word()));
-            case 4: return Word();
-            default: return Below(nNear + 3);
+            case 0:
+                return -1;
+            case 1:
+                return -2 - Word();
+            case 2:
+                return 0x7FFFFFFF;
+            case 3:
+                return static_cast<int>(0x80000000u + static_cast<unsigned>(Word()));
+            case 4:
+                return Word();
+            default:
+                return Below(nNear + 3);
         }
     }
 
     // Text made of the bytes an editor finds hardest: line ends in every
     // combination, blanks, hyphens, high bytes, and now and then a long run.
     std::string Text(int nMax) {
-        static const char kAlphabet[] = {'a', 'b', 'Z', ' ', '\t', '\r', '\n', '-', '\xe9', '\xff', '\x80', '0', '{', '}'};
+        static const char kAlphabet[] = {'a', 'b',    'Z',    ' ',    '\t', '\r', '\n',
+                                         '-', '\xe9', '\xff', '\x80', '0',  '{',  '}'};
         std::string text;
         const int n = Below(nMax + 1);
         for (int i = 0; i < n; ++i) {

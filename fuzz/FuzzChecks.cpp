@@ -14,9 +14,12 @@ namespace {
 std::string Shown(const std::string& text) {
     std::string shown;
     for (unsigned char c : text.substr(0, 300)) {
-        if (c == '\r') shown += "\\r";
-        else if (c == '\n') shown += "\\n";
-        else if (c == '\t') shown += "\\t";
+        if (c == '\r')
+            shown += "\\r";
+        else if (c == '\n')
+            shown += "\\n";
+        else if (c == '\t')
+            shown += "\\t";
         else if (c < 32 || c >= 127) {
             char hex[8];
             std::snprintf(hex, sizeof hex, "\\x%02x", c);
@@ -31,7 +34,8 @@ std::string Shown(const std::string& text) {
 // Where two texts part, with a little of each from there.
 std::string Difference(const std::string& got, const std::string& expected) {
     std::size_t i = 0;
-    while (i < got.size() && i < expected.size() && got[i] == expected[i]) ++i;
+    while (i < got.size() && i < expected.size() && got[i] == expected[i])
+        ++i;
     const std::size_t from = i > 20 ? i - 20 : 0;
     return "at byte " + std::to_string(i) + " of " + std::to_string(got.size()) + "/" +
            std::to_string(expected.size()) + ": '" + Shown(got.substr(from, 60)) + "', expected '" +
@@ -60,9 +64,10 @@ std::string CZoneFuzzer::Text() {
 
 void CZoneFuzzer::CheckInvariants() {
     if (s_bTrace)
-        std::fprintf(stderr, "    text '%s' sel %d,%d-%d,%d mode %d undo %zu\n", Shown(Text()).c_str(),
-                     m_zone.m_nSelStartLine, m_zone.m_nSelStartChar, m_zone.m_nSelEndLine,
-                     m_zone.m_nSelEndChar, m_zone.m_nSelectionMode, m_zone.m_undoList.size());
+        std::fprintf(stderr, "    text '%s' sel %d,%d-%d,%d mode %d undo %zu\n",
+                     Shown(Text()).c_str(), m_zone.m_nSelStartLine, m_zone.m_nSelStartChar,
+                     m_zone.m_nSelEndLine, m_zone.m_nSelEndChar, m_zone.m_nSelectionMode,
+                     m_zone.m_undoList.size());
     CheckStore();
     CheckLengths();
     CheckSelection();
@@ -74,7 +79,8 @@ void CZoneFuzzer::CheckStore() {
     long long sum = 0;
     for (int b = 0; b < m_zone.m_nBlockCount; ++b) {
         const int size = m_zone.m_pBlockSizes[b];
-        if (size < 1 || size > m_zone.m_nGranularity) Fail("a block of the store is empty or overfull");
+        if (size < 1 || size > m_zone.m_nGranularity)
+            Fail("a block of the store is empty or overfull");
         for (int i = 0; i < size; ++i)
             if (!m_zone.m_ppBlocks[b][i]) Fail("a null line in the store");
         sum += size;
@@ -101,8 +107,13 @@ void CZoneFuzzer::CheckStore() {
 }
 
 void CZoneFuzzer::CheckLengths() {
-    static const WORD kFlags[] = {0, TF_LF, TF_CRLF, TF_WRAPPED_ENDS, TF_CRLF | TF_WRAPPED_ENDS,
-                                  TF_NO_FINAL_END, TF_LF | TF_NO_FINAL_END,
+    static const WORD kFlags[] = {0,
+                                  TF_LF,
+                                  TF_CRLF,
+                                  TF_WRAPPED_ENDS,
+                                  TF_CRLF | TF_WRAPPED_ENDS,
+                                  TF_NO_FINAL_END,
+                                  TF_LF | TF_NO_FINAL_END,
                                   TF_CRLF | TF_WRAPPED_ENDS | TF_NO_FINAL_END};
     // The length is a buffer size: behind an unended last line it always
     // counts a line end, which GetText writes only behind a line of its own
@@ -173,7 +184,8 @@ void CZoneFuzzer::CheckHistory() {
         m_zone.Undo();
         CheckInvariants();
     }
-    if (m_bBaseValid && Text() != m_strBase) Fail("undo all differs " + Difference(Text(), m_strBase));
+    if (m_bBaseValid && Text() != m_strBase)
+        Fail("undo all differs " + Difference(Text(), m_strBase));
     // As many steps forward as went back: the redo list may have held more.
     for (int i = 0; i < undone; ++i) {
         m_zone.Redo();

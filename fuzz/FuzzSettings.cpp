@@ -13,8 +13,9 @@
 
 void CZoneFuzzer::StepSettings(CByteReader& in, int nOp) {
     switch (nOp) {
-        case 0: case 1: {
-            static const DWORD kBits[] = {ZS_AUTOINDENT, ZS_PARAGRAPH,  ZS_WORDBREAK,
+        case 0:
+        case 1: {
+            static const DWORD kBits[] = {ZS_AUTOINDENT, ZS_PARAGRAPH, ZS_WORDBREAK,
                                           ZS_SELTOEDGE,  ZS_FREECARET, ZS_CUTLONGLINES};
             DWORD style = m_zone.GetStyle() ^ kBits[in.Below(6)];
             Trace("SetStyle %lu", static_cast<unsigned long>(style));
@@ -101,7 +102,8 @@ void CZoneFuzzer::StepBlocks(CByteReader& in, int nOp) {
         case 1: {
             Trace("block input");
             m_zone.BeginEditBlockInput();
-            for (int i = in.Below(5); i > 0; --i) m_zone.AddEditBlockInput(in.Position(n), in.Position(6));
+            for (int i = in.Below(5); i > 0; --i)
+                m_zone.AddEditBlockInput(in.Position(n), in.Position(6));
             m_zone.EndEditBlockInput();
             break;
         }
@@ -133,7 +135,8 @@ void CZoneFuzzer::StepBlocks(CByteReader& in, int nOp) {
             VESK::String status;
             if (in.Flag()) m_zone.GetEditorBlockStatus(status);
             std::string junk = in.Text(12);
-            for (int i = in.Below(4); i > 0; --i) junk += std::to_string(in.Position(n)) + ",";
+            for (int i = in.Below(4); i > 0; --i)
+                junk += std::to_string(in.Position(n)) + ",";
             if (in.Flag()) status = VESK::String(junk.c_str());
             Trace("SetEditorBlockStatus '%s'", status.c_str());
             m_zone.SetEditorBlockStatus(status);

@@ -38,11 +38,16 @@ int main(int argc, char** argv) {
     std::vector<fs::path> inputs;
     for (int i = 1; i < argc; ++i) {
         std::string arg = argv[i];
-        if (arg == "--seconds" && i + 1 < argc) seconds = std::atof(argv[++i]);
-        else if (arg == "--seed" && i + 1 < argc) seed = static_cast<unsigned>(std::strtoul(argv[++i], nullptr, 10));
-        else if (arg == "--save" && i + 1 < argc) saveDir = argv[++i];
-        else if (arg == "--trace") CZoneFuzzer::SetTrace(true);
-        else inputs.emplace_back(arg);
+        if (arg == "--seconds" && i + 1 < argc)
+            seconds = std::atof(argv[++i]);
+        else if (arg == "--seed" && i + 1 < argc)
+            seed = static_cast<unsigned>(std::strtoul(argv[++i], nullptr, 10));
+        else if (arg == "--save" && i + 1 < argc)
+            saveDir = argv[++i];
+        else if (arg == "--trace")
+            CZoneFuzzer::SetTrace(true);
+        else
+            inputs.emplace_back(arg);
     }
 
     long runs = 0, ops = 0;
@@ -68,10 +73,12 @@ int main(int argc, char** argv) {
     while (std::chrono::steady_clock::now() < stop) {
         // Mostly short inputs, so that runs start often from fresh controls.
         std::vector<std::uint8_t> input(8 + random() % 600);
-        for (auto& byte : input) byte = static_cast<std::uint8_t>(random());
+        for (auto& byte : input)
+            byte = static_cast<std::uint8_t>(random());
         if (!saveDir.empty()) {
             std::ofstream out(fs::path(saveDir) / "last-input", std::ios::binary);
-            out.write(reinterpret_cast<const char*>(input.data()), static_cast<std::streamsize>(input.size()));
+            out.write(reinterpret_cast<const char*>(input.data()),
+                      static_cast<std::streamsize>(input.size()));
         }
         ops += RunInput(input);
         ++runs;

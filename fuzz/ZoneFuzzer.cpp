@@ -115,8 +115,10 @@ void CZoneFuzzer::StepText(CByteReader& in, int nOp) {
             Rebase();
             break;
         }
-        case 1: case 2: {
-            int l1 = in.Position(n), l2 = in.Position(n), c1 = in.Position(12), c2 = in.Position(12);
+        case 1:
+        case 2: {
+            int l1 = in.Position(n), l2 = in.Position(n), c1 = in.Position(12),
+                c2 = in.Position(12);
             short mode = static_cast<short>(in.Below(3));
             Trace("SetSelection %d %d %d %d mode %d", l1, l2, c1, c2, mode);
             m_zone.SetSelection(l1, l2, c1, c2, mode, in.Flag());
@@ -142,13 +144,15 @@ void CZoneFuzzer::StepText(CByteReader& in, int nOp) {
         case 5: {
             int count = 1 + in.Below(6);
             Trace("Undo x%d", count);
-            for (int i = 0; i < count; ++i) m_zone.Undo();
+            for (int i = 0; i < count; ++i)
+                m_zone.Undo();
             break;
         }
         case 6: {
             int count = 1 + in.Below(6);
             Trace("Redo x%d", count);
-            for (int i = 0; i < count; ++i) m_zone.Redo();
+            for (int i = 0; i < count; ++i)
+                m_zone.Redo();
             break;
         }
         case 7: {
@@ -205,11 +209,15 @@ void CZoneFuzzer::StepText(CByteReader& in, int nOp) {
 // Keys, typing, clipboard, mouse, drag and drop, painting, scrolling.
 void CZoneFuzzer::StepInput(CByteReader& in, int nOp) {
     switch (nOp) {
-        case 0: case 1: case 2: case 3: {
-            static const UINT kKeys[] = {VK_LEFT, VK_RIGHT, VK_UP,   VK_DOWN,   VK_PRIOR,    VK_NEXT,
-                                         VK_HOME, VK_END,   VK_BACK, VK_DELETE, VK_TAB,      VK_RETURN,
-                                         VK_ESCAPE, 'U',    VK_MULTIPLY, VK_ADD, VK_SUBTRACT, VK_F2,
-                                         'A', 'Z', 'Y', 'X', 'C', 'V', VK_INSERT};
+        case 0:
+        case 1:
+        case 2:
+        case 3: {
+            static const UINT kKeys[] = {VK_LEFT, VK_RIGHT,    VK_UP,     VK_DOWN, VK_PRIOR,
+                                         VK_NEXT, VK_HOME,     VK_END,    VK_BACK, VK_DELETE,
+                                         VK_TAB,  VK_RETURN,   VK_ESCAPE, 'U',     VK_MULTIPLY,
+                                         VK_ADD,  VK_SUBTRACT, VK_F2,     'A',     'Z',
+                                         'Y',     'X',         'C',       'V',     VK_INSERT};
             UINT key = kKeys[in.Below(sizeof kKeys / sizeof kKeys[0])];
             int mods = in.Below(8);
             int repeat = 1 + in.Below(3);
@@ -217,14 +225,18 @@ void CZoneFuzzer::StepInput(CByteReader& in, int nOp) {
             m_platform.SetKeyState(VK_SHIFT, mods & 1);
             m_platform.SetKeyState(VK_CONTROL, mods & 2);
             m_platform.SetKeyState(VK_MENU, mods & 4);
-            for (int i = 0; i < repeat; ++i) m_editor.SendMessage(WM_KEYDOWN, key, 0);
+            for (int i = 0; i < repeat; ++i)
+                m_editor.SendMessage(WM_KEYDOWN, key, 0);
             m_platform.SetKeyState(VK_SHIFT, false);
             m_platform.SetKeyState(VK_CONTROL, false);
             m_platform.SetKeyState(VK_MENU, false);
             break;
         }
-        case 4: case 5: case 6: {
-            static const char kTyped[] = {'a', ' ', '\t', '\r', '-', '(', '\xe9', 'Q', '\n', '\b', 27};
+        case 4:
+        case 5:
+        case 6: {
+            static const char kTyped[] = {'a',    ' ', '\t', '\r', '-', '(',
+                                          '\xe9', 'Q', '\n', '\b', 27};
             int count = 1 + in.Below(4);
             for (int i = 0; i < count; ++i) {
                 char c = in.Flag() ? kTyped[in.Below(sizeof kTyped)] : static_cast<char>(in.Byte());
@@ -242,7 +254,8 @@ void CZoneFuzzer::StepInput(CByteReader& in, int nOp) {
             if (what >= 2) m_zone.Paste();
             break;
         }
-        case 8: case 9: {
+        case 8:
+        case 9: {
             POINT pt{in.Position(400), in.Position(300)};
             if (in.Flag()) pt = POINT{in.Below(420) - 10, in.Below(320) - 10};
             UINT flags = static_cast<UINT>(in.Below(16)) & (MK_SHIFT | MK_CONTROL | MK_LBUTTON);
@@ -257,7 +270,8 @@ void CZoneFuzzer::StepInput(CByteReader& in, int nOp) {
             m_platform.SetKeyState(VK_LBUTTON, false);
             if (what == 4) {
                 std::string text = in.Text(10);
-                m_zone.HandleOleDrop(text.c_str(), in.Flag() ? DROPEFFECT_MOVE : DROPEFFECT_COPY, &pt);
+                m_zone.HandleOleDrop(text.c_str(), in.Flag() ? DROPEFFECT_MOVE : DROPEFFECT_COPY,
+                                     &pt);
             }
             break;
         }

@@ -250,7 +250,9 @@ public:
     // Plain members.
     // Whether undo records places as text offsets: with wrapped paragraphs
     // line positions shift on every rewrap. Box mode never meets wrap.
-    bool UndoByOffsets() const { return (m_dwStyle & ZS_PARAGRAPH) && m_nSelectionMode != TZ_SEL_BOX; }
+    bool UndoByOffsets() const {
+        return (m_dwStyle & ZS_PARAGRAPH) && m_nSelectionMode != TZ_SEL_BOX;
+    }
     // The selected text as GetSelectedText writes it, in a buffer of just
     // the room it needs.
     std::string GetSelectedTextString(WORD wFlags);

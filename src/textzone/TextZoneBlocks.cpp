@@ -34,9 +34,9 @@ void ToggleHeadAtCaret(CTextZone& zone) {
     const int nLine = zone.m_nSelStartLine;
     CStringEx* pLine = zone.GetLine(nLine);
     if (!pLine) return;
-    if ((pLine->m_dwBlockFlags & (BF_OPEN_HEAD | BF_CLOSED_HEAD)) == 1)
+    if ((pLine->m_dwBlockFlags & (BF_OPEN_HEAD | BF_CLOSED_HEAD)) == BF_OPEN_HEAD)
         zone.CloseBlock(nLine, 1);
-    else if ((pLine->m_dwBlockFlags & (BF_OPEN_HEAD | BF_CLOSED_HEAD)) == 2)
+    else if ((pLine->m_dwBlockFlags & (BF_OPEN_HEAD | BF_CLOSED_HEAD)) == BF_CLOSED_HEAD)
         zone.OpenBlock(nLine, 1);
 }
 

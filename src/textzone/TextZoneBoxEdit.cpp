@@ -195,7 +195,8 @@ void CTextZone::BoxDeleteSelection() {
                 // A zero step is taken as the default for good, so that the
                 // stop below is defined.
                 if (m_nTabWidth == 0) m_nTabWidth = 20;
-                const int step = std::max(1, m_nTabWidth > 0 ? m_nTabWidth : -m_nTabWidth * m_nCharWidth);
+                const int step =
+                    std::max(1, m_nTabWidth > 0 ? m_nTabWidth : -m_nTabWidth * m_nCharWidth);
                 const int margin = GetTextWidth(pDC, "", 0);
                 const int from = textWidth(*pLine, idx) - margin;
                 const int stop = margin + (from / step + 1) * step;

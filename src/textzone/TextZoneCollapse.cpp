@@ -63,7 +63,8 @@ int CTextZone::OpenBlock(int nLine, int bUpdate) {
     if (pBlk->m_bClosed) bChanged = true;
     pBlk->m_bClosed = 0;
     if (CStringEx* pHead = nLine >= 0 ? GetLine(nLine) : nullptr) {
-        DWORD dwFlags = (pHead->m_dwBlockFlags & ~(BF_OPEN_HEAD | BF_CLOSED_HEAD)) | (pEdit ? 1u : 0u);
+        DWORD dwFlags =
+            (pHead->m_dwBlockFlags & ~(BF_OPEN_HEAD | BF_CLOSED_HEAD)) | (pEdit ? 1u : 0u);
         if (dwFlags != pHead->m_dwBlockFlags) bChanged = true;
         pHead->m_dwBlockFlags = dwFlags;
     }

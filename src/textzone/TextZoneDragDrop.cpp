@@ -11,8 +11,8 @@
 #include "textzone/TextZone.h"
 
 bool CTextZone::IsOleDragAllowed(UINT, POINT* pt) {
-    return m_bDragDrop && TestSelection() && pt && PtInSelection(pt) && m_nSelectionMode != TZ_SEL_BOX &&
-           GetKeyState(VK_MENU) >= 0;
+    return m_bDragDrop && TestSelection() && pt && PtInSelection(pt) &&
+           m_nSelectionMode != TZ_SEL_BOX && GetKeyState(VK_MENU) >= 0;
 }
 
 bool CTextZone::IsOleDropAllowed(UINT, POINT*) {

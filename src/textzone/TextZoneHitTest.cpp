@@ -25,7 +25,8 @@ int CTextZone::GetCharIndexFromPoint(CStringEx* pLine, POINT* pt) {
         const int space = std::max(1, GetTextWidth(pDC, " ", 1) - GetTextWidth(pDC, "", 0));
         const long long reach =
             padded.GetLength() + std::max(0LL, static_cast<long long>(d) - textWidth) / space + 2;
-        padded.EnsureMinimumLength(static_cast<int>(std::min<long long>(reach, TZ_MAX_LINE_LENGTH)));
+        padded.EnsureMinimumLength(
+            static_cast<int>(std::min<long long>(reach, TZ_MAX_LINE_LENGTH)));
         line = &padded;
     }
     const char* text = line->c_str();

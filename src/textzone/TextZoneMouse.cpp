@@ -73,7 +73,8 @@ void CTextZone::HandleLButtonDown(UINT nFlags, POINT* pt) {
     const int oldFirst = m_nSelStartLine;
     const int oldLast = m_nSelEndLine;
     if (hadSelection) {
-        if (!m_bReadOnly && m_bDragDrop && m_nSelectionMode != TZ_SEL_BOX && !alt && PtInSelection(pt)) {
+        if (!m_bReadOnly && m_bDragDrop && m_nSelectionMode != TZ_SEL_BOX && !alt &&
+            PtInSelection(pt)) {
             // Perhaps the start of a text drag; the release tells.
             m_nDragState = 1;
             return;
@@ -95,11 +96,11 @@ void CTextZone::HandleLButtonDown(UINT nFlags, POINT* pt) {
 
     // The mark of a block head sits at the right of the margin.
     int margin = GetMarginWidth();
-    if (index == 0 && pLine && (pLine->m_dwBlockFlags & (BF_OPEN_HEAD | BF_CLOSED_HEAD)) && margin != 0 && !alt &&
-        !KeyDown(VK_SHIFT) && !KeyDown(VK_CONTROL)) {
+    if (index == 0 && pLine && (pLine->m_dwBlockFlags & (BF_OPEN_HEAD | BF_CLOSED_HEAD)) &&
+        margin != 0 && !alt && !KeyDown(VK_SHIFT) && !KeyDown(VK_CONTROL)) {
         int v = pt->x - m_rcText.left + GetHScrollOffset();
         if (v < margin && v >= margin - (m_nLineHeight * 3) / 4 - 1) {
-            if ((pLine->m_dwBlockFlags & (BF_OPEN_HEAD | BF_CLOSED_HEAD)) == 1)
+            if ((pLine->m_dwBlockFlags & (BF_OPEN_HEAD | BF_CLOSED_HEAD)) == BF_OPEN_HEAD)
                 CloseBlock(line, 1);
             else
                 OpenBlock(line, 1);

@@ -8,7 +8,8 @@ void CTextZone::SetSelectionMode(short wMode) {
     bool hadSelection = TestSelection() != 0;
     WORD old = m_nSelectionMode;
     // Columns need wrapped lines off and every byte equally wide.
-    if (wMode == TZ_SEL_BOX && ((m_dwStyle & ZS_PARAGRAPH) || IsFontProportionnal())) wMode = TZ_SEL_STREAM;
+    if (wMode == TZ_SEL_BOX && ((m_dwStyle & ZS_PARAGRAPH) || IsFontProportionnal()))
+        wMode = TZ_SEL_STREAM;
     if (wMode < 0 || wMode > 2) return;
     m_nSelectionMode = static_cast<WORD>(wMode);
     if (!hadSelection) return;

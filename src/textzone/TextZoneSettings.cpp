@@ -148,7 +148,8 @@ void CTextZone::SetStyle(DWORD dwStyle) {
             while (!pLine->IsEnded()) {
                 CStringEx* pNext = GetLine(n + 1);
                 if (!pNext) break;
-                if (pLine->GetLength() + pNext->GetLength() - pNext->IsEnded() > TZ_MAX_LINE_LENGTH) {
+                if (pLine->GetLength() + pNext->GetLength() - pNext->IsEnded() >
+                    TZ_MAX_LINE_LENGTH) {
                     pLine->EnsureEnded();
                     break;
                 }

@@ -7,8 +7,8 @@
 #include "platform/DC.h"
 #include "platform/Messages.h"
 #include "platform/Wnd.h"
-#include "textzone/TextZone.h"
 #include "textzone/TextBytes.h"
+#include "textzone/TextZone.h"
 
 namespace {
 

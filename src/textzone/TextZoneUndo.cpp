@@ -12,7 +12,6 @@ namespace {
 
 using InfoList = std::vector<std::unique_ptr<char[]>>;
 
-
 bool OnlyBlanks(const CStringEx& line) {
     return textbytes::OnlyBlanks(line, textbytes::TextLength(line));
 }
@@ -59,9 +58,10 @@ bool RecordSelectedText(CTextZone& zone, CUndoUnit& unit) {
         CStringEx* pAbove = savedEndLine > 0 ? zone.GetLine(savedEndLine - 1) : nullptr;
         if (!pEnd && pAbove && !pAbove->IsEnded())
             // Behind an unended last line: the text ends on that line.
-            zone.m_nSelEndLine = savedEndLine - 1, zone.m_nSelEndChar = textbytes::TextLength(*pAbove);
+            zone.m_nSelEndLine = savedEndLine - 1,
+            zone.m_nSelEndChar = textbytes::TextLength(*pAbove);
         else if (pEnd && !(zone.m_dwStyle & ZS_FREECARET) && savedEndChar == pEnd->GetLength() &&
-            pEnd->IsEnded())
+                 pEnd->IsEnded())
             zone.m_nSelEndLine = savedEndLine + 1, zone.m_nSelEndChar = 0;
         else
             zone.m_nSelEndChar = std::min(savedEndChar, pEnd ? textbytes::TextLength(*pEnd) : 0);

@@ -8,8 +8,8 @@
 
 #include "platform/Messages.h"
 #include "platform/Wnd.h"
-#include "textzone/TextZone.h"
 #include "textzone/TextBytes.h"
+#include "textzone/TextZone.h"
 
 namespace {
 
@@ -53,7 +53,8 @@ void RestoreLines(CTextZone& zone, const CUndoUnit& unit) {
         size_t end = std::min(text.find('\n', pos), text.size());
         CStringEx* pLine = zone.GetLine(n);
         if (end - pos == 1 && text[pos] == '\0') {
-            if (pLine) zone.RemoveLines(n, std::min(unit.m_nLastLine, zone.GetLastLineIndex()) - n + 1);
+            if (pLine)
+                zone.RemoveLines(n, std::min(unit.m_nLastLine, zone.GetLastLineIndex()) - n + 1);
             break;
         }
         if (!pLine) pLine = zone.InsertLine(n);

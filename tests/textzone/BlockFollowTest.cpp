@@ -26,7 +26,8 @@ protected:
     std::string Extent() {
         std::string s;
         for (auto& pBlk : m_zone.m_editBlocks)
-            s += std::to_string(pBlk->m_nFirstLine) + "+" + std::to_string(pBlk->m_nLineCount) + " ";
+            s +=
+                std::to_string(pBlk->m_nFirstLine) + "+" + std::to_string(pBlk->m_nLineCount) + " ";
         return s;
     }
 };
