@@ -51,6 +51,8 @@ public:
                 text += "\n\r";
             } else if (choice < 19) {
                 text += static_cast<char>(Byte() | 1);  // any byte but 0
+            } else if (Below(4) != 0) {
+                text.append(static_cast<std::size_t>(Below(24)), Flag() ? 'x' : ' ');
             } else {
                 // A long run: lines up to 70,000 bytes reach the line limits.
                 static const int kRuns[] = {80, 300, 4096, 65499, 65500, 65537, 70000};

@@ -97,7 +97,7 @@ void CTextZone::BeginEditBlockInput() {
 int CTextZone::AddEditBlockInput(int nLine, int nCount) {
     // Only a block on a line of the text is taken, before any sum is made.
     if (nLine < 0 || !GetLine(nLine)) return 0;
-    if (nCount < 0) nCount = GetLineCount() - nLine;
+    if (nCount < 0 || nCount > GetLineCount() - nLine) nCount = GetLineCount() - nLine;
     auto pos = m_inputBlocks.begin();
     for (; pos != m_inputBlocks.end() && (*pos)->m_nFirstLine <= nLine; ++pos) {
         if ((*pos)->m_nFirstLine == nLine) {

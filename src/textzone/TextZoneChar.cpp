@@ -16,8 +16,11 @@ void CTextZone::KeySetTypingRoot() {
     if (UndoByOffsets()) {
         GetSelection(&m_lSelRootOffset, nullptr, nullptr, nullptr, 1);
     } else {
+        // Behind a line's end the range to undo starts at its end, so that
+        // undo takes out any padding along with what was typed.
+        CStringEx* pLine = GetLine(m_nSelStartLine);
         m_nSelRootLine = m_nSelStartLine;
-        m_nSelRootChar = m_nSelStartChar;
+        m_nSelRootChar = std::min(m_nSelStartChar, pLine ? TextLength(*pLine) : 0);
     }
 }
 

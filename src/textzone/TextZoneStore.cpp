@@ -3,6 +3,7 @@
 // block capacity follows the square root of the line count, so texts of
 // millions of lines stay cheap to edit in the middle.
 #include <algorithm>
+#include <climits>
 #include <cstring>
 #include <unordered_set>
 #include <vector>
@@ -194,7 +195,8 @@ CStringEx* CTextZone::InsertLine(int nLine) {
     ++m_nLineCount;
     for (auto& blk : m_editBlocks) {
         if (blk->m_nFirstLine < nLine &&
-            nLine < static_cast<long long>(blk->m_nFirstLine) + blk->m_nLineCount)
+            nLine < static_cast<long long>(blk->m_nFirstLine) + blk->m_nLineCount &&
+            blk->m_nLineCount < INT_MAX)
             ++blk->m_nLineCount;
         if (blk->m_nFirstLine >= nLine) ++blk->m_nFirstLine;
     }

@@ -39,6 +39,12 @@ void SelectPlace(CTextZone& zone, const CUndoUnit& unit) {
     zone.m_nSelStartChar = unit.m_nFirstChar;
     zone.m_nSelEndLine = unit.m_nLastLine;
     zone.m_nSelEndChar = unit.m_nLastChar;
+    // An empty unended last line may have come and gone in between: no end
+    // stays past the place behind the text.
+    const int last = zone.GetLastLineIndex();
+    const int after = zone.GetLine(last) ? last + 1 : last;
+    if (zone.m_nSelEndLine > after) zone.m_nSelEndLine = after, zone.m_nSelEndChar = 0;
+    if (zone.m_nSelStartLine > after) zone.m_nSelStartLine = after, zone.m_nSelStartChar = 0;
 }
 
 // Each line from the unit's first to its last takes back its copy: the
