@@ -7,11 +7,9 @@
 #include "ZoneFuzzer.h"
 #include "textzone/TextZone.h"
 
-namespace {
-
 // A text as it can be read in a report: line ends and other control bytes
 // spelled out, and no more than a few hundred bytes of it.
-std::string Shown(const std::string& text) {
+std::string CZoneFuzzer::Shown(const std::string& text) {
     std::string shown;
     for (unsigned char c : text.substr(0, 300)) {
         if (c == '\r')
@@ -31,6 +29,8 @@ std::string Shown(const std::string& text) {
     return text.size() > 300 ? shown + "...(" + std::to_string(text.size()) + " bytes)" : shown;
 }
 
+namespace {
+
 // Where two texts part, with a little of each from there.
 std::string Difference(const std::string& got, const std::string& expected) {
     std::size_t i = 0;
@@ -38,8 +38,8 @@ std::string Difference(const std::string& got, const std::string& expected) {
         ++i;
     const std::size_t from = i > 20 ? i - 20 : 0;
     return "at byte " + std::to_string(i) + " of " + std::to_string(got.size()) + "/" +
-           std::to_string(expected.size()) + ": '" + Shown(got.substr(from, 60)) + "', expected '" +
-           Shown(expected.substr(from, 60)) + "'";
+           std::to_string(expected.size()) + ": '" + CZoneFuzzer::Shown(got.substr(from, 60)) + "', expected '" +
+           CZoneFuzzer::Shown(expected.substr(from, 60)) + "'";
 }
 
 }  // namespace
@@ -64,8 +64,8 @@ std::string CZoneFuzzer::Text() {
 
 void CZoneFuzzer::CheckInvariants() {
     if (s_bTrace)
-        std::fprintf(stderr, "    text '%s' sel %d,%d-%d,%d mode %d undo %zu\n",
-                     Shown(Text()).c_str(), m_zone.m_nSelStartLine, m_zone.m_nSelStartChar,
+        std::fprintf(stderr, "    text '%s' lines %d sel %d,%d-%d,%d mode %d undo %zu\n",
+                     Shown(Text()).c_str(), m_zone.m_nLineCount, m_zone.m_nSelStartLine, m_zone.m_nSelStartChar,
                      m_zone.m_nSelEndLine, m_zone.m_nSelEndChar, m_zone.m_nSelectionMode,
                      m_zone.m_undoList.size());
     CheckStore();

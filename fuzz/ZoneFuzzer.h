@@ -23,6 +23,8 @@ public:
 
     // With a trace each operation is printed before it runs.
     static void SetTrace(bool bTrace) { s_bTrace = bTrace; }
+    // A text as a report can show it: control bytes spelled out, cut short.
+    static std::string Shown(const std::string& text);
 
 private:
     CZoneFuzzer(CHeadlessPlatform& platform, CEditor& editor);

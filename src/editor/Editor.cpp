@@ -182,7 +182,12 @@ void CEditor::SetSelectionMode(short wMode) {
 }
 
 void CEditor::ReplaceSel(const char* pszText) {
+    // Outside an undo frame the replacement is not recorded, so the places
+    // the history holds no longer match the text: replaying them would edit
+    // the wrong bytes. Drop the history, as for a new text.
+    const bool bRecorded = m_pZone->m_pCurrentOperation || m_pZone->m_bUndoing;
     m_pZone->InsertText(pszText, 0, 1, 1);
+    if (!bRecorded) m_pZone->FreeAllOperations();
 }
 
 LONG CEditor::GetWindowTextA(char* pBuffer, LONG lSize) {

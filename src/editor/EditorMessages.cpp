@@ -129,7 +129,7 @@ LRESULT CEditor::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
             // A line number here, not a character position.
             return LineLength(static_cast<int>(wParam));
         case EM_REPLACESEL:
-            zone.InsertText(reinterpret_cast<const char*>(lParam), 0, 1, 1);
+            ReplaceSel(reinterpret_cast<const char*>(lParam));
             return 0;
         case EM_GETLINE: {
             // The size word at the head of the buffer is not read: the caller

@@ -152,6 +152,31 @@ TEST_F(EditorTest, ClearLeavesAFullStopAndUndoMessagesReachTheHistory) {
     EXPECT_EQ(Send(EM_CANUNDO), 0);
 }
 
+// A host's replacement is not recorded, so the places in the history no
+// longer match the text; replaying them would cut the wrong bytes or leave
+// an unended line inside the text. The history goes instead.
+TEST_F(EditorTest, AReplacementOutsideTheHistoryEndsTheHistory) {
+    SetText("one\r\ntwo");
+    Send(EM_SETSEL, 0, MAKELPARAM(3, 3));
+    Send(WM_CHAR, 'X');
+    Send(WM_CHAR, 'Y');
+    ASSERT_EQ(Send(EM_CANUNDO), 1);
+    Send(EM_SETSEL, 0, MAKELPARAM(0, 2));
+    Send(EM_REPLACESEL, 0, reinterpret_cast<LPARAM>("a\r\nb\r\nc"));
+    EXPECT_EQ(Text(), "a\r\nb\r\nceXY\r\ntwo\r\n");
+    EXPECT_EQ(Send(EM_CANUNDO), 0);
+    Send(EM_UNDO);
+    EXPECT_EQ(Text(), "a\r\nb\r\nceXY\r\ntwo\r\n");
+
+    // Inside a frame of the host's own the replacement is one more step.
+    m_editor.GetZone()->StartRegister(6);
+    m_editor.ReplaceSel("Z");
+    m_editor.GetZone()->EndRegister();
+    EXPECT_EQ(Send(EM_UNDO), 1);
+    EXPECT_EQ(Text(), "a\r\nb\r\nceXY\r\ntwo\r\n");
+    EXPECT_EQ(Send(EM_CANUNDO), 0);
+}
+
 TEST_F(EditorTest, EscapeAsksTheParentToCloseAndShortcutsAreTakenFirst) {
     SetText("hello");
     m_parent.ClearMessages();
