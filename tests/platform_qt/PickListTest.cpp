@@ -1,0 +1,109 @@
+// The word-completion list on Qt, driven by real key events on an editor
+// control with a coloured zone.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QTest>
+#include <QTimer>
+#include <string>
+#include <vector>
+
+#include "colour/TextZoneColor.h"
+#include "completion/CompletionList.h"
+#include "editor/qt/QtEditorWidget.h"
+#include "platform/qt/QtPlatform.h"
+
+namespace {
+
+class CHostWordsZone : public CTextZoneColor {
+public:
+    void AddExtraCandidateKeyword(const char* pPrefix, int) override {
+        for (const char* w : {"qqc", "qqa", "qqb"})
+            if (std::string(w).rfind(pPrefix, 0) == 0) m_candidates.emplace_back(w);
+    }
+};
+
+class PickListTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        m_editor.resize(400, 200);
+        m_editor.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&m_editor));
+        m_editor.activateWindow();
+        m_zone.SetSQLSyntaxColor(14);
+        m_zone.SetWordCompletion(1);
+        m_editor.Editor().SetWindowTextA("x qq");
+        m_editor.Editor().SetSel(4, 4);
+        m_editor.Editor().SetFocus();
+        m_pWindow = CQtPlatform::WidgetOf(&m_editor.Editor());
+        Pump();
+    }
+    static void Pump() {
+        for (int i = 0; i < 3; ++i)
+            QCoreApplication::processEvents();
+    }
+
+    // Ctrl+Space with the left Ctrl key; keys are typed into the list once
+    // it is up, and what was seen of it meanwhile is noted.
+    void CompleteTyping(std::vector<Qt::Key> keys) {
+        QTimer::singleShot(0, [this, keys] {
+            m_pList = m_pWindow->findChild<QListWidget*>();
+            m_bShown = IsCompletionListShown();
+            QWidget* target = QApplication::focusWidget() ? QApplication::focusWidget() : m_pWindow;
+            m_bListHasKeyboard = m_pList && (target == m_pList || m_pList->isAncestorOf(target));
+            if (m_pList) m_nRows = m_pList->count();
+            for (Qt::Key key : keys)
+                QTest::keyClick(target, key);
+        });
+        QKeyEvent leftCtrl(QEvent::KeyPress, Qt::Key_Control, Qt::ControlModifier, 37, 0, 0);
+        QApplication::sendEvent(m_pWindow, &leftCtrl);
+        QTest::keyClick(m_pWindow, Qt::Key_Space, Qt::ControlModifier);
+        QKeyEvent leftCtrlUp(QEvent::KeyRelease, Qt::Key_Control, Qt::NoModifier, 37, 0, 0);
+        QApplication::sendEvent(m_pWindow, &leftCtrlUp);
+        Pump();
+    }
+
+    // The text as the control gives it, with its line end.
+    std::string Text() {
+        char buffer[64] = {};
+        m_editor.Editor().GetWindowTextA(buffer, sizeof buffer);
+        return buffer;
+    }
+
+    CQtPlatform m_platform;
+    CHostWordsZone m_zone;
+    CQtEditorWidget m_editor{nullptr, 0, &m_zone};
+    QWidget* m_pWindow = nullptr;
+    QListWidget* m_pList = nullptr;
+    bool m_bShown = false;
+    bool m_bListHasKeyboard = false;
+    int m_nRows = 0;
+};
+
+TEST_F(PickListTest, DownAndReturnInsertTheSecondCandidate) {
+    CompleteTyping({Qt::Key_Down, Qt::Key_Return});
+    ASSERT_NE(m_pList, nullptr) << "no list came up";
+    EXPECT_TRUE(m_bShown);
+    EXPECT_TRUE(m_bListHasKeyboard);
+    EXPECT_EQ(m_nRows, 3);
+    EXPECT_EQ(Text(), "x qqb \r\n");
+    EXPECT_FALSE(IsCompletionListShown());
+    EXPECT_EQ(m_pWindow->findChild<QListWidget*>(), nullptr) << "the list is gone";
+    EXPECT_EQ(m_zone.m_bCompleting, 0);
+    // Typing goes on in the text.
+    QTest::keyClicks(m_pWindow, "z");
+    Pump();
+    EXPECT_EQ(Text(), "x qqb z\r\n");
+}
+
+TEST_F(PickListTest, EscapeLeavesTheTextAsItWas) {
+    CompleteTyping({Qt::Key_Down, Qt::Key_Escape});
+    ASSERT_NE(m_pList, nullptr) << "no list came up";
+    EXPECT_EQ(Text(), "x qq\r\n");
+    EXPECT_EQ(m_pWindow->findChild<QListWidget*>(), nullptr);
+    EXPECT_EQ(m_zone.GetUndoType(), 0) << "nothing was inserted";
+}
+
+}  // namespace
