@@ -45,23 +45,25 @@ protected:
             QCoreApplication::processEvents();
     }
 
-    // Ctrl+Space with the left Ctrl key; keys are typed into the list once
-    // it is up, and what was seen of it meanwhile is noted.
-    void CompleteTyping(std::vector<Qt::Key> keys) {
+    // Ctrl+Space with the Ctrl key of the native code (37 left, 105 right);
+    // keys are typed into the list once it is up, and what was seen of it
+    // meanwhile is noted.
+    void CompleteTyping(std::vector<Qt::Key> keys, quint32 nCtrlCode = 37) {
         QTimer::singleShot(0, [this, keys] {
             m_pList = m_pWindow->findChild<QListWidget*>();
             m_bShown = IsCompletionListShown();
             QWidget* target = QApplication::focusWidget() ? QApplication::focusWidget() : m_pWindow;
             m_bListHasKeyboard = m_pList && (target == m_pList || m_pList->isAncestorOf(target));
             if (m_pList) m_nRows = m_pList->count();
+            m_nMode = m_zone.m_nCompletionMode;
             for (Qt::Key key : keys)
                 QTest::keyClick(target, key);
         });
-        QKeyEvent leftCtrl(QEvent::KeyPress, Qt::Key_Control, Qt::ControlModifier, 37, 0, 0);
-        QApplication::sendEvent(m_pWindow, &leftCtrl);
+        QKeyEvent ctrl(QEvent::KeyPress, Qt::Key_Control, Qt::ControlModifier, nCtrlCode, 0, 0);
+        QApplication::sendEvent(m_pWindow, &ctrl);
         QTest::keyClick(m_pWindow, Qt::Key_Space, Qt::ControlModifier);
-        QKeyEvent leftCtrlUp(QEvent::KeyRelease, Qt::Key_Control, Qt::NoModifier, 37, 0, 0);
-        QApplication::sendEvent(m_pWindow, &leftCtrlUp);
+        QKeyEvent ctrlUp(QEvent::KeyRelease, Qt::Key_Control, Qt::NoModifier, nCtrlCode, 0, 0);
+        QApplication::sendEvent(m_pWindow, &ctrlUp);
         Pump();
     }
 
@@ -80,6 +82,7 @@ protected:
     bool m_bShown = false;
     bool m_bListHasKeyboard = false;
     int m_nRows = 0;
+    int m_nMode = -1;
 };
 
 TEST_F(PickListTest, DownAndReturnInsertTheSecondCandidate) {
@@ -88,6 +91,7 @@ TEST_F(PickListTest, DownAndReturnInsertTheSecondCandidate) {
     EXPECT_TRUE(m_bShown);
     EXPECT_TRUE(m_bListHasKeyboard);
     EXPECT_EQ(m_nRows, 3);
+    EXPECT_EQ(m_nMode, 0) << "left Ctrl: the keyword tables too";
     EXPECT_EQ(Text(), "x qqb \r\n");
     EXPECT_FALSE(IsCompletionListShown());
     EXPECT_EQ(m_pWindow->findChild<QListWidget*>(), nullptr) << "the list is gone";
@@ -104,6 +108,13 @@ TEST_F(PickListTest, EscapeLeavesTheTextAsItWas) {
     EXPECT_EQ(Text(), "x qq\r\n");
     EXPECT_EQ(m_pWindow->findChild<QListWidget*>(), nullptr);
     EXPECT_EQ(m_zone.GetUndoType(), 0) << "nothing was inserted";
+}
+
+TEST_F(PickListTest, RightCtrlAsksForTheHostsWordsAlone) {
+    CompleteTyping({Qt::Key_Return}, 105);
+    ASSERT_NE(m_pList, nullptr) << "no list came up";
+    EXPECT_EQ(m_nMode, 1);
+    EXPECT_EQ(Text(), "x qqa \r\n");
 }
 
 }  // namespace
