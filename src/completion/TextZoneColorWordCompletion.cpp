@@ -137,8 +137,7 @@ void CTextZoneColor::InsertCandidate(const std::string& text) {
 
 void CTextZoneColor::CompleteInPlace(int nMode, bool bStarted, bool bShift) {
     if (!m_bCompleting) return;
-    if (!bStarted &&
-        (m_undoList.empty() || m_undoList.back().get() != m_pCompletionUndo)) {
+    if (!bStarted && (m_undoList.empty() || m_undoList.back().get() != m_pCompletionUndo)) {
         // Another edit has taken place behind the cycle's back.
         ResetWordCompletion();
         return;
@@ -179,9 +178,9 @@ void CTextZoneColor::CompleteFromList(int nMode) {
         }
     }
     ReleaseStandardDC(pDC);
-    const RECT rc = PickListRect(ptCaret, w, cy, static_cast<int>(items.size()),
-                                 GetSystemMetrics(SM_CXBORDER), GetSystemMetrics(SM_CYBORDER),
-                                 GetSystemMetrics(SM_CXVSCROLL));
+    const RECT rc =
+        PickListRect(ptCaret, w, cy, static_cast<int>(items.size()), GetSystemMetrics(SM_CXBORDER),
+                     GetSystemMetrics(SM_CYBORDER), GetSystemMetrics(SM_CXVSCROLL));
 
     SetCompletionListShown(true);
     IPlatform* pPlatform = GetPlatform();

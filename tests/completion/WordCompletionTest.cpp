@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "colour/TextZoneColor.h"
-#include "host/Collator.h"
 #include "completion/CompletionList.h"
+#include "host/Collator.h"
 #include "platform/Caret.h"
 #include "platform/Font.h"
 #include "platform/headless/HeadlessFonts.h"
@@ -163,7 +163,7 @@ TEST_F(WordCompletionTest, AnythingElseEndsTheCycle) {
     CtrlSpace(VK_RCONTROL);
     EXPECT_EQ(Line(), "abcdef ");
     m_zone.SetSelection(0, 0, 6, 6, 0, 1);  // behind the candidate's last letter
-    m_zone.HandleKeyDown(VK_END, 1, 0);      // any key but the modifiers resets
+    m_zone.HandleKeyDown(VK_END, 1, 0);     // any key but the modifiers resets
     EXPECT_EQ(m_zone.m_bCompleting, 0);
     Type("abcde");
     CtrlSpace(VK_RCONTROL);

@@ -30,12 +30,12 @@ int CQtPickList::Run(QWidget* pParent, const QRect& rc, const QFont& font,
     CQtPickList filter(pList, &loop);
     qApp->installEventFilter(&filter);
     // The focus going anywhere else, this application included, cancels.
-    auto focusWatch = QObject::connect(qApp, &QApplication::focusChanged,
-                                       [&](QWidget*, QWidget* pNow) {
-                                           if (!filter.IsOnList(pNow)) filter.Finish(false);
-                                       });
-    auto quitWatch = QObject::connect(qApp, &QCoreApplication::aboutToQuit,
-                                      [&] { filter.Finish(false); });
+    auto focusWatch =
+        QObject::connect(qApp, &QApplication::focusChanged, [&](QWidget*, QWidget* pNow) {
+            if (!filter.IsOnList(pNow)) filter.Finish(false);
+        });
+    auto quitWatch =
+        QObject::connect(qApp, &QCoreApplication::aboutToQuit, [&] { filter.Finish(false); });
     if (!filter.m_bDone && !pList->hasFocus() && QApplication::focusWidget() != pList)
         pList->setFocus(Qt::OtherFocusReason);
     if (!filter.m_bDone) loop.exec();
