@@ -5,6 +5,7 @@
 // to draw.
 //   bench_engine [Google Benchmark flags]
 //   bench_engine --memory LINES     peak memory of a load, as one JSON line
+//   bench_engine --write-sql LINES FILE   the SQL text as a file (for the demo)
 #include <benchmark/benchmark.h>
 
 #include <chrono>
@@ -13,83 +14,15 @@
 #include <memory>
 #include <string>
 
+#include "EngineDoc.h"
+#include "EngineSpeedBench.h"
 #include "SqlText.h"
-#include "platform/Font.h"
-#include "platform/Messages.h"
-#include "platform/Wnd.h"
-#include "platform/headless/HeadlessFonts.h"
 #include "platform/headless/HeadlessPlatform.h"
 #include "textzone/TextZone.h"
 
 namespace {
 
-// The window every zone lives in: 800 x 600, like the peers' widgets.
-constexpr RECT kWindow{0, 0, 800, 600};
-
-// A zone in a headless window, with a fixed font of 16 pixels.
-struct EngineDoc {
-    EngineDoc() {
-        wnd.Create(WS_VISIBLE, kWindow, nullptr, 1);
-        LOGFONTA lf = CHeadlessFonts::MakeFont(CHeadlessFonts::kFixedFace, 16);
-        font.CreateFontIndirect(&lf);
-        zone.SetWindow(&wnd);
-        RECT client;
-        wnd.GetClientRect(&client);
-        zone.SetRect(&client);
-        zone.SetFont(font);
-    }
-    ~EngineDoc() {
-        zone.HideCaret();
-        wnd.DestroyWindow();
-    }
-    EngineDoc(const EngineDoc&) = delete;
-    EngineDoc& operator=(const EngineDoc&) = delete;
-
-    int LineLength(int nLine) {
-        CStringEx* pLine = zone.GetLine(nLine);
-        return pLine ? pLine->GetLength() : -1;
-    }
-    void PlaceCaret(int nLine, int nChar) { zone.SetSelection(nLine, nLine, nChar, nChar, 0, 0); }
-
-    CWnd wnd;
-    CFont font;
-    CTextZone zone;
-};
-
-// The text of the last size asked for, made once per size.
-const std::string& Text(int nLines) {
-    static std::string text;
-    static int made = -1;
-    if (made != nLines) {
-        text.clear();
-        text.shrink_to_fit();
-        text = bench::MakeSqlText(nLines);
-        made = nLines;
-    }
-    return text;
-}
-
-// A loaded zone of the size, kept between benchmarks: every task leaves the
-// text as it found it, and loading 10M lines each time would cost more than
-// the tasks themselves.
-EngineDoc& LoadedDoc(int nLines) {
-    static std::unique_ptr<EngineDoc> doc;
-    static int loaded = -1;
-    if (loaded != nLines) {
-        doc.reset();
-        doc = std::make_unique<EngineDoc>();
-        doc->zone.SetText(Text(nLines).c_str());
-        loaded = nLines;
-    }
-    return *doc;
-}
-
-template <class F>
-double Seconds(F&& f) {
-    const auto t0 = std::chrono::steady_clock::now();
-    f();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count();
-}
+using namespace bench;
 
 void BM_Split(benchmark::State& state) {
     const std::string& text = Text(static_cast<int>(state.range(0)));
@@ -123,17 +56,6 @@ void BM_GetText(benchmark::State& state) {
         }));
         benchmark::DoNotOptimize(out.data());
     }
-}
-
-// An edit as a host makes one: one undo operation around the change.
-void Edit(CTextZone& zone, short wKind, const char* pszInsert) {
-    zone.SetModify(1);
-    zone.StartRegister(wKind);
-    if (pszInsert)
-        zone.InsertText(pszInsert, 0, 1, 1);
-    else
-        zone.DeleteSelection(1);
-    zone.EndRegister();
 }
 
 void BM_InsertRemoveLine(benchmark::State& state) {
@@ -294,12 +216,25 @@ int MeasureMemory(int nLines) {
     return 0;
 }
 
+// The bench's SQL text as a file, for timing the demo's open.
+int WriteSql(int nLines, const char* pszPath) {
+    const std::string text = bench::MakeSqlText(nLines);
+    std::FILE* f = std::fopen(pszPath, "wb");
+    if (!f) return 1;
+    const bool ok = std::fwrite(text.data(), 1, text.size(), f) == text.size();
+    return std::fclose(f) == 0 && ok ? 0 : 1;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
     CHeadlessPlatform platform;
-    if (argc == 3 && std::strcmp(argv[1], "--memory") == 0) return MeasureMemory(std::atoi(argv[2]));
+    if (argc == 3 && std::strcmp(argv[1], "--memory") == 0)
+        return MeasureMemory(std::atoi(argv[2]));
+    if (argc == 4 && std::strcmp(argv[1], "--write-sql") == 0)
+        return WriteSql(std::atoi(argv[2]), argv[3]);
     Register();
+    RegisterSpeedBench();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
     benchmark::RunSpecifiedBenchmarks();

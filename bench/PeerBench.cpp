@@ -7,6 +7,7 @@
 //   bench_peers --memory qscintilla|qplaintextedit LINES
 #include <benchmark/benchmark.h>
 
+#include <Qsci/qsciscintilla.h>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPixmap>
@@ -15,7 +16,6 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
-#include <Qsci/qsciscintilla.h>
 #include <chrono>
 #include <cstdio>
 #include <cstring>
@@ -66,7 +66,8 @@ const SourceText& Text(int nLines) {
         text.string.clear();
         text.string.squeeze();
         text.bytes = bench::MakeSqlText(nLines);
-        text.string = QString::fromLatin1(text.bytes.data(), static_cast<qsizetype>(text.bytes.size()));
+        text.string =
+            QString::fromLatin1(text.bytes.data(), static_cast<qsizetype>(text.bytes.size()));
         text.lines = nLines;
     }
     return text;
@@ -128,7 +129,9 @@ public:
         m_sci.removeSelectedText();
     }
     void PlaceCaret(int nLine) override { m_sci.setCursorPosition(nLine, 0); }
-    void InsertAtCaret(char c) override { m_sci.SendScintilla(QsciScintillaBase::SCI_ADDTEXT, 1UL, &c); }
+    void InsertAtCaret(char c) override {
+        m_sci.SendScintilla(QsciScintillaBase::SCI_ADDTEXT, 1UL, &c);
+    }
     void Undo() override { m_sci.undo(); }
     bool CanUndo() override { return m_sci.isUndoAvailable(); }
     int LineLength(int nLine) override { return m_sci.lineLength(nLine); }
@@ -249,11 +252,13 @@ void BM_GetText(benchmark::State& state) {
     }
 }
 
-template <class P>
+// In the middle, or (kTop) near the top, where QScintilla's per-edit cost
+// that grows with the text behind the edit is small.
+template <class P, bool kTop = false>
 void BM_InsertRemoveLine(benchmark::State& state) {
     const int nLines = static_cast<int>(state.range(0));
     Peer& peer = LoadedPeer<P>(nLines);
-    const int mid = bench::MiddleLine(nLines);
+    const int mid = kTop ? bench::kTopLine : bench::MiddleLine(nLines);
     const int count = peer.LineCount();
     for (auto _ : state) {
         state.SetIterationTime(Seconds([&] {
@@ -393,6 +398,7 @@ void RegisterPeer(const char* name, int size) {
     add("Load", BM_Load<P>);
     add("GetText", BM_GetText<P>);
     add("InsertRemoveLine", BM_InsertRemoveLine<P>);
+    add("InsertRemoveLineTop", BM_InsertRemoveLine<P, true>);
     add("Type", BM_Type<P, true>, true);
     add("Undo", BM_Undo<P, true>, true);
     add("TypeApi", BM_Type<P, false>, true);

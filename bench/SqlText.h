@@ -27,6 +27,9 @@ std::string MakeSqlText(int nLines);
 inline int MiddleLine(int nLines) {
     return nLines / 2;
 }
+// The line near the top for the edit where QScintilla's per-edit cost, which
+// grows with the text behind the edit, is small.
+constexpr int kTopLine = 10;
 // The line of the word that find looks for: 99% of the way down.
 inline int FindLine(int nLines) {
     return nLines - nLines / 100 - 1;

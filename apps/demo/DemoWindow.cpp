@@ -1,11 +1,15 @@
 #include "apps/demo/DemoWindow.h"
 
+#include <unistd.h>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QPixmap>
 #include <QStatusBar>
+
+#include <cstring>
+#include <memory>
 #include <string>
 
 #include "textzone/TextZone.h"
@@ -67,15 +71,39 @@ void CDemoWindow::ApplyLanguage(const CLanguageChoice& choice) {
 bool CDemoWindow::OpenFile(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) return false;
-    const QByteArray bytes = file.readAll();
-    m_bCrLf = bytes.contains("\r\n");
-    m_bFinalLineEnd = bytes.isEmpty() || bytes.endsWith('\n') || bytes.endsWith('\r');
+    // The file is mapped, not read: the zone makes the only copy of the text
+    // it keeps. A private mapping may be written without touching the file.
+    const qint64 size = file.size();
+    const auto n = static_cast<size_t>(size);
+    uchar* pMap = size > 0 ? file.map(0, size, QFileDevice::MapPrivateOption) : nullptr;
+    std::unique_ptr<char[]> copy;
+    char* text = reinterpret_cast<char*>(pMap);
+    const long page = sysconf(_SC_PAGESIZE);
+    // Behind the end of a file the rest of its last page reads as 0, which
+    // ends the text; a file that fills its last page needs a copy for that 0.
+    if (!text || page <= 0 || n % static_cast<size_t>(page) == 0) {
+        copy = std::make_unique_for_overwrite<char[]>(n + 1);
+        if (text) {
+            std::memcpy(copy.get(), text, n);
+        } else if (size > 0 && file.read(copy.get(), size) != size) {
+            return false;
+        }
+        copy[n] = 0;
+        text = copy.get();
+    }
+    // CR LF if any CR is followed by LF; memchr skips to CRs, which plain
+    // LF text has none of.
+    m_bCrLf = false;
+    for (const char* p = text;
+         !m_bCrLf && (p = static_cast<const char*>(std::memchr(p, '\r', n - (p - text))));)
+        m_bCrLf = *++p == '\n';
+    m_bFinalLineEnd = n == 0 || text[n - 1] == '\n' || text[n - 1] == '\r';
     // The text is 8-bit: a 0 byte would end it, so it becomes a blank.
-    std::string text(bytes.constData(), static_cast<size_t>(bytes.size()));
-    for (char& c : text)
-        if (c == 0) c = ' ';
+    for (char* p = text; (p = static_cast<char*>(std::memchr(p, 0, n - (p - text))));)
+        *p = ' ';
     if (!m_bLanguageChosen) ApplyLanguage(CLanguageChoice::ForPath(path.toStdString()));
-    m_pEditor->Editor().SetWindowTextA(text.c_str());
+    m_pEditor->Editor().SetWindowTextA(text);
+    if (pMap) file.unmap(pMap);
     // A file opens at its top, the caret at its start.
     m_pEditor->Editor().SetSel(0, 0);
     m_path = path;

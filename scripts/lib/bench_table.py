@@ -23,12 +23,19 @@ TASKS = [
     ("Load", "Load the text"),
     ("GetText", "Read the text out"),
     ("InsertRemoveLine", "Insert and remove a line in the middle"),
+    ("InsertRemoveLineTop", "Insert and remove a line near the top (line 10)"),
+    ("Paste1000", "Paste 1000 lines in the middle"),
     ("Type", "Type 100 characters in the middle, one key at a time"),
     ("Undo", "Undo the 100 characters"),
     ("TypeApi", "Type 100 characters in the middle, one insert call each"),
     ("UndoApi", "Undo the 100 inserted characters"),
     ("Find", "Find a word near the end"),
+    ("FindNoCase", "Find a word near the end, case folded"),
     ("Paint", "Paint one screen (800 x 600)"),
+    ("HiddenFrame", "Paint a frame near the end, a hidden range every 100 lines (ZS_VARHEIGHT)"),
+    ("RestoreBlocks", "Restore 65535 closed blocks from the block status string"),
+    ("DemoOpen", "Demo: open a file, launch to first paint (offscreen)"),
+    ("DemoClose", "Demo: close the file's window"),
     ("DefineColors", "Colour runs of 60 dense T-SQL lines (dialect 90)"),
     ("StartWithWhat", "Start state of the last line, from a cold start"),
     ("PaintColour", "Paint one screen of coloured SQL (800 x 600)"),
@@ -161,6 +168,18 @@ def figures(runs, memory, machine):
         out.append("| Peak memory per line while loading | %s | %s | %s | %s | %s | %s |"
                    % (size_label(n), mem(values[0]), mem(values[1]), mem(values[2]),
                       mem_ratio(values[1]), mem_ratio(values[2])))
+    for n in SIZES:
+        values = [memory.get((c, n)) for c in [ENGINE] + PEERS]
+        if all(v is None or "resident_bytes_per_line" not in v for v in values):
+            continue
+
+        def resident(v):
+            if v is None or "resident_bytes_per_line" not in v:
+                return "—"
+            return "%.0f B" % v["resident_bytes_per_line"]
+
+        out.append("| Resident memory per line after loading | %s | %s | %s | %s | — | — |"
+                   % (size_label(n), resident(values[0]), resident(values[1]), resident(values[2])))
     if errors:
         out.append("")
         for message, where in errors.items():

@@ -1,7 +1,12 @@
 #include "textzone/StringEx.h"
 
+#include <cstdarg>
+#include <cstddef>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
+
+#include "textzone/TextZone.h"
 
 namespace {
 
@@ -20,6 +25,98 @@ bool IsWrapDelimiter(char c) {
 }  // namespace
 
 CStringEx::CStringEx(const char* psz) : VESK::String(psz) {}
+
+CStringEx::CStringEx(const CStringEx& src)
+    : VESK::String(src), m_dwBookmarks(src.m_dwBookmarks), m_dwBlockFlags(src.m_dwBlockFlags) {}
+
+CStringEx& CStringEx::operator=(const CStringEx& src) {
+    const int nOld = GetLength();
+    VESK::String::operator=(src);
+    m_dwBookmarks = src.m_dwBookmarks;
+    m_dwBlockFlags = src.m_dwBlockFlags;
+    NoteLength(nOld);
+    return *this;
+}
+
+void CLineFlags::NoteHidden() {
+    // The flags are a member of a line: the line lies at a fixed distance
+    // before them, measured once on a line of our own.
+    static const std::ptrdiff_t offset = [] {
+        CStringEx probe;
+        return reinterpret_cast<const char*>(&probe.m_dwBlockFlags) -
+               reinterpret_cast<const char*>(&probe);
+    }();
+    auto* pLine = reinterpret_cast<CStringEx*>(reinterpret_cast<char*>(this) - offset);
+    if (pLine->m_nOwnerZone) CTextZone::FromIndex(pLine->m_nOwnerZone)->NoteLineFlags(pLine);
+}
+
+void CStringEx::NoteLength(int nOld) {
+    if (m_nOwnerZone && GetLength() != nOld)
+        CTextZone::FromIndex(m_nOwnerZone)->NoteLineLength(this);
+}
+
+// Each change runs the string's own operation and then tells the zone.
+template <class F>
+CStringEx& CStringEx::Noted(F change) {
+    const int nOld = GetLength();
+    change();
+    NoteLength(nOld);
+    return *this;
+}
+
+CStringEx& CStringEx::operator+=(const char* psz) {
+    return Noted([&] { VESK::String::operator+=(psz); });
+}
+CStringEx& CStringEx::operator+=(char c) {
+    return Noted([&] { VESK::String::operator+=(c); });
+}
+CStringEx& CStringEx::operator+=(const VESK::String& s) {
+    return Noted([&] { VESK::String::operator+=(s); });
+}
+CStringEx& CStringEx::keepLeft(int n) {
+    return Noted([&] { VESK::String::keepLeft(n); });
+}
+CStringEx& CStringEx::discardLeft(int n) {
+    return Noted([&] { VESK::String::discardLeft(n); });
+}
+CStringEx& CStringEx::discardRight(int n) {
+    return Noted([&] { VESK::String::discardRight(n); });
+}
+CStringEx& CStringEx::deleteAt(int nPos, int nCount) {
+    return Noted([&] { VESK::String::deleteAt(nPos, nCount); });
+}
+CStringEx& CStringEx::insertAt(int nPos, char c) {
+    return Noted([&] { VESK::String::insertAt(nPos, c); });
+}
+CStringEx& CStringEx::insertAt(int nPos, const char* psz) {
+    return Noted([&] { VESK::String::insertAt(nPos, psz); });
+}
+CStringEx& CStringEx::insertAt(int nPos, const VESK::String& s) {
+    return Noted([&] { VESK::String::insertAt(nPos, s); });
+}
+
+void CStringEx::Empty() {
+    Noted([&] { VESK::String::Empty(); });
+}
+
+CStringEx& CStringEx::Format(const char* pszFormat, ...) {
+    va_list args;
+    va_start(args, pszFormat);
+    va_list again;
+    va_copy(again, args);
+    const int n = std::vsnprintf(nullptr, 0, pszFormat, args);
+    va_end(args);
+    std::string text(static_cast<size_t>(n > 0 ? n : 0), '\0');
+    if (n > 0) std::vsnprintf(text.data(), text.size() + 1, pszFormat, again);
+    va_end(again);
+    // The arguments may point into this line's own bytes: they were read above.
+    assign(text.data(), static_cast<int>(text.size()));
+    return *this;
+}
+
+void CStringEx::assign(const char* p, int n) {
+    Noted([&] { VESK::String::assign(p, n); });
+}
 
 int CStringEx::IsEnded() const {
     int n = GetLength();

@@ -4,17 +4,41 @@
 // delimiters are 9, 32 and 45.
 #pragma once
 
+#include <cstdint>
+
 #include "host/VeskString.h"
 #include "platform/Types.h"
+#include "textzone/LineFlags.h"
+
+class CTextZone;
 
 class CStringEx : public VESK::String {
 public:
     CStringEx() = default;
     CStringEx(const char* psz);
     // Copies carry the bookmarks and block flags along with the text, so
-    // assigning a fresh line clears them.
-    CStringEx(const CStringEx& src) = default;
-    CStringEx& operator=(const CStringEx& src) = default;
+    // assigning a fresh line clears them. A copy belongs to no zone.
+    CStringEx(const CStringEx& src);
+    CStringEx& operator=(const CStringEx& src);
+
+    // The string's changes that can alter the length, redeclared so that a
+    // line in a zone's store tells the zone its new length (the zone keeps
+    // every line's length for the horizontal range without visiting lines).
+    // Assigning a text goes through a fresh line, as it always has, so it
+    // clears the bookmarks and flags.
+    CStringEx& operator+=(const char* psz);
+    CStringEx& operator+=(char c);
+    CStringEx& operator+=(const VESK::String& s);
+    CStringEx& keepLeft(int n);
+    CStringEx& discardLeft(int n);
+    CStringEx& discardRight(int n);
+    CStringEx& deleteAt(int nPos, int nCount);
+    CStringEx& insertAt(int nPos, char c);
+    CStringEx& insertAt(int nPos, const char* psz);
+    CStringEx& insertAt(int nPos, const VESK::String& s);
+    void Empty();
+    void assign(const char* p, int n);
+    CStringEx& Format(const char* pszFormat, ...) __attribute__((format(printf, 2, 3)));
 
     virtual ~CStringEx() = default;
     virtual int IsEnded() const;
@@ -31,10 +55,22 @@ public:
     virtual char* GetSpecificInfo();
     virtual void SetSpecificInfo(char* pszInfo);
 
-    DWORD m_dwBookmarks = 0;   // one bit per bookmark number
-    DWORD m_dwBlockFlags = 0;  // 1 opens an open block, 2 opens a closed one, 4 hidden
+    DWORD m_dwBookmarks = 0;    // one bit per bookmark number
+    CLineFlags m_dwBlockFlags;  // 1 opens an open block, 2 opens a closed one, 4 hidden
+    // The zone whose store holds this line (CTextZone::FromIndex), set by the
+    // store; 0 for copies and loose lines. An index, not a pointer: it fills
+    // the 4 bytes the object had to spare, and a derived line's first member
+    // still fits in the tail, so no line grows.
+    std::uint32_t m_nOwnerZone = 0;
 
 private:
+    friend class CLineFlags;
+    // Tells the owning zone if the length is no longer nOld.
+    void NoteLength(int nOld);
+    // Runs a change of the string and tells the zone of a new length.
+    template <class F>
+    CStringEx& Noted(F change);
+
     // Index of the first wrap delimiter after the leading blanks, or -1 if the
     // text ends first.
     int FindFirstDelimiter() const;

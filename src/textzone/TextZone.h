@@ -8,6 +8,7 @@
 // are declared in their fixed slot order; the source is cut by topic.
 #pragma once
 
+#include <cstdint>
 #include <list>
 #include <memory>
 
@@ -223,6 +224,13 @@ public:
     void SetBookmarkColor(COLORREF cr, int nIndex);
     void SetLineBookmark(int nLine, int nBit, int bOn);
     const GraphicText& getGraphicText() const { return m_GraphicText; }
+    // The zone a line names by CStringEx::m_nOwnerZone.
+    static CTextZone* FromIndex(std::uint32_t nIndex);
+    // A line of the store says that its length changed (CStringEx does).
+    void NoteLineLength(CStringEx* pLine);
+    // Its hidden flag (4 of m_dwBlockFlags) may have changed: every place
+    // that sets or clears the flag on a stored line says so.
+    void NoteLineFlags(CStringEx* pLine);
 
 protected:
     bool DoOleMoveItem(POINT* pt);
@@ -248,6 +256,63 @@ protected:
     // Window x of the place behind nIndex bytes of a line, or of its
     // space-equivalent copy, padded with spaces beyond the text.
     int CaretX(CDC* pDC, int nLine, int nIndex, bool bColumns);
+
+    // --- Store slots (TextZoneStore.cpp, TextZoneLineLengths.cpp) ---
+    // Every slot of the store holds a line and, beside it, the line's raw
+    // length; each block knows its longest raw length. So the longest line
+    // of a range is found without visiting the lines.
+    void NewStoreBlock(int nBlock);
+    void FreeStoreBlock(int nBlock);
+    void PutSlot(int nBlock, int nIndex, CStringEx* pLine);
+    // memmove-like within one block or between two.
+    void MoveSlots(int nToBlock, int nToIndex, int nFromBlock, int nFromIndex, int nCount);
+    // Moves the directory entries [nFrom, nBlockCount) to nTo on.
+    void MoveDirectory(int nTo, int nFrom);
+    void ForgetLongest(int nBlock) {
+        m_pBlockLongest[nBlock] = -1;
+        m_pBlockHidden[nBlock] = -1;
+    }
+    // A slot holds the raw length, and kSlotHidden for a hidden line.
+    static constexpr int kSlotHidden = 1 << 30;
+    static int SlotLength(int nSlot) { return nSlot & (kSlotHidden - 1); }
+    static int SlotOf(const CStringEx* pLine) {
+        return pLine->GetLength() | ((pLine->m_dwBlockFlags & 4) ? kSlotHidden : 0);
+    }
+    int HiddenInBlock(int nBlock);
+    // The hidden lines among the lines [0, nLines), nLines at most the count.
+    long long HiddenBefore(int nLines);
+    // The line whose place holds the height y (>= 0) under ZS_VARHEIGHT, as
+    // GetLineFromPoint's walk finds it.
+    int LineAtHeight(int y);
+    void RememberPlace(int nBlock, int nIndex) {
+        m_nRecentBlock[m_nRecentNext] = nBlock;
+        m_nRecentIndex[m_nRecentNext] = nIndex;
+        m_nRecentNext = (m_nRecentNext + 1) & 3;
+    }
+    int LongestInBlock(int nBlock);
+    // The first line with the most bytes among nFirst..nLast (both existing,
+    // nFirst <= nLast), as the walk of GetMaxLineWidth would find it.
+    int FindLongestLine(int nFirst, int nLast);
+    bool FindSlot(const CStringEx* pLine, int* pBlock, int* pIndex);
+    void RebuildLineLengths();
+    static std::uint32_t TakeIndex(CTextZone* pZone);
+    static void ReleaseIndex(std::uint32_t nIndex);
+    // The number of lines a stream insertion of pszText makes.
+    static long long CountTextLines(const char* pszText);
+    // Grows the empty store at once to the capacity the insertion of
+    // nLines lines would have grown it to step by step.
+    void ReserveLines(long long nLines);
+    // Calls f(line) for the lines in order, straight from the blocks, while
+    // it returns true. The first lookup is GetLine(0)'s own, so a stale cache
+    // that hides line 0 hides the text as a walk by GetLine would.
+    template <class F>
+    void ForEachStoredLine(F f) {
+        if (!GetLine(0)) return;
+        for (int b = 0; b < m_nBlockCount; ++b)
+            for (int i = 0; i < m_pBlockSizes[b]; ++i)
+                if (!f(m_ppBlocks[b][i])) return;
+    }
+    // --- end of store slots ---
 
     // The line limit in force: 65500 bytes, 65536 with ZS_PARAGRAPH.
     int GetLineLimit() const {
@@ -336,6 +401,18 @@ public:
     std::unique_ptr<std::unique_ptr<CStringEx*[]>[]> m_ppBlocks;
     int m_nBlockCount = 0;
     std::unique_ptr<int[]> m_pBlockSizes;
+    // Raw lengths beside the line pointers, and per block the longest one
+    // (-1: to be found again). Stale: a line changed where the zone could not
+    // place it, so all lengths are read again before the next use.
+    std::unique_ptr<std::unique_ptr<int[]>[]> m_ppLengths;
+    std::unique_ptr<int[]> m_pBlockLongest;
+    std::unique_ptr<int[]> m_pBlockHidden;  // hidden lines per block, -1: to be counted
+    bool m_bLengthsStale = false;
+    std::uint32_t m_nZoneIndex = TakeIndex(this);  // what this zone's lines name it by
+    // Places of the last lines looked up, where a changing line is sought first.
+    int m_nRecentBlock[4] = {-1, -1, -1, -1};
+    int m_nRecentIndex[4] = {0, 0, 0, 0};
+    int m_nRecentNext = 0;
     int m_nCacheLine = -1;
     int m_nCacheBlock = 0;
     int m_nCacheIndex = 0;

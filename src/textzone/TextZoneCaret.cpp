@@ -175,8 +175,12 @@ LONG CTextZone::GetLinePosition(int nLine) {
     // place is a line high, so only the lines of the text are walked.
     const int stop = std::min(nLine, GetLastLineIndex() + 1);
     long long y = static_cast<long long>(nLine - stop) * m_nLineHeight;
-    for (int n = 0; n < stop; ++n)
-        y += GetLineHeight(n);
+    if (m_nLineCount == 0) {
+        y += GetLineHeight(0);  // no line: the place of line 0 is a line high
+    } else {
+        // The store counts the hidden lines per block, so this needs no walk.
+        y += (stop - HiddenBefore(stop)) * m_nLineHeight;
+    }
     return static_cast<LONG>(std::min<long long>(y, INT_MAX));
 }
 
@@ -199,6 +203,7 @@ int CTextZone::GetLineFromPoint(POINT* pt) {
         int h = GetLineHeight(0);
         return h > 0 ? y / h : 0;
     }
+    if (m_nLineCount > 0 && m_nLineHeight > 0) return LineAtHeight(y);
     int sum = 0;
     int last = GetLastLineIndex();
     for (int line = 0; line <= last; ++line) {

@@ -97,6 +97,10 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
         if (GetLastLineIndex() >= TZ_MAX_LINES) {
             result = 0;
         } else {
+            // Into an empty store the lines come in order: size it for them at
+            // once instead of re-laying every line at each step of growth.
+            if (m_nLineCount == 0 && !paragraphs)
+                ReserveLines(std::min<long long>(CountTextLines(pszText) + 1, TZ_MAX_LINES + 1LL));
             pLine = GetLine(L);
             if (!pLine) {
                 // On the place behind an unended last line: end that line first,
@@ -148,9 +152,16 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
                 int n = srcLen;
                 if (srcLen >= TZ_MAX_LINE_LENGTH - start)
                     n = std::max(0, TZ_MAX_LINE_LENGTH - 1 - start);
-                *pTarget += VESK::String(p, n);
                 // A source line too long for a line is ended here and goes on below.
-                if (p[n] != 0) *pTarget += kLineEnd;
+                if (start == 0 && pTarget->IsEmpty()) {
+                    // A new line: its bytes and its end in one allocation.
+                    const int ended = p[n] != 0 ? 1 : 0;
+                    pTarget->assign(p, n + ended);
+                    if (ended) pTarget->replaceAt(n, kLineEnd);
+                } else {
+                    *pTarget += VESK::String(p, n);
+                    if (p[n] != 0) *pTarget += kLineEnd;
+                }
                 if (m_bTabConvert) {
                     // Assigning a fresh line drops the bookmarks and block flags too.
                     CStringEx spaced;

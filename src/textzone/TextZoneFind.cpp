@@ -16,6 +16,88 @@ int RawLength(CTextZone& zone, int nLine) {
     return pLine ? pLine->GetLength() : 0;
 }
 
+// The word to find, its case folded once. A match at i is what strncmp (or
+// _strnicmp) over the word's length at i calls equal; a search jumps from
+// one possible first byte to the next with memchr instead of comparing at
+// every byte.
+class Needle {
+public:
+    Needle(const char* pszText, int n, bool bMatchCase)
+        : m_p(pszText), m_n(n), m_bMatchCase(bMatchCase) {
+        for (int c = 0; c < 256; ++c)
+            m_fold[c] = ToLower1252(static_cast<unsigned char>(c));
+        m_folded.resize(static_cast<size_t>(n));
+        for (int k = 0; k < n; ++k)
+            m_folded[static_cast<size_t>(k)] = m_fold[static_cast<unsigned char>(pszText[k])];
+        // The bytes that fold to the first one: itself and its other case.
+        m_first[0] = static_cast<unsigned char>(pszText[0]);
+        m_first[1] = m_first[0];
+        if (!bMatchCase) {
+            for (int c = 0; c < 256; ++c)
+                if (m_fold[c] == m_folded[0] && c != m_first[0])
+                    m_first[1] = static_cast<unsigned char>(c);
+        }
+    }
+
+    // The first match starting in [nFrom, nLength - n] of p, or -1.
+    int Forward(const char* p, int nLength, int nFrom) const {
+        const int last = nLength - m_n;
+        if (nFrom > last) return -1;
+        for (int i = nFrom; i <= last;) {
+            const int c = NextFirst(p, i, last);
+            if (c < 0) return -1;
+            if (Matches(p + c)) return c;
+            i = c + 1;
+        }
+        return -1;
+    }
+
+    // The last match starting in [0, nTo - n] of p, or -1.
+    int Backward(const char* p, int nTo) const {
+        for (int last = nTo - m_n; last >= 0;) {
+            const int c = PrevFirst(p, last);
+            if (c < 0) return -1;
+            if (Matches(p + c)) return c;
+            last = c - 1;
+        }
+        return -1;
+    }
+
+private:
+    bool Matches(const char* q) const {
+        if (m_bMatchCase) return std::memcmp(q, m_p, static_cast<size_t>(m_n)) == 0;
+        for (int k = 0; k < m_n; ++k)
+            if (m_fold[static_cast<unsigned char>(q[k])] != m_folded[static_cast<size_t>(k)])
+                return false;
+        return true;
+    }
+    // The first place in [i, last] holding one of the first bytes, or -1.
+    int NextFirst(const char* p, int i, int last) const {
+        const auto span = static_cast<size_t>(last - i + 1);
+        const void* a = std::memchr(p + i, m_first[0], span);
+        const void* b = m_first[1] != m_first[0] ? std::memchr(p + i, m_first[1], span) : nullptr;
+        if (!a && !b) return -1;
+        const char* hit = static_cast<const char*>(!a ? b : !b ? a : std::min(a, b));
+        return static_cast<int>(hit - p);
+    }
+    // The last place in [0, last] holding one of the first bytes, or -1.
+    int PrevFirst(const char* p, int last) const {
+        const auto span = static_cast<size_t>(last + 1);
+        const void* a = memrchr(p, m_first[0], span);
+        const void* b = m_first[1] != m_first[0] ? memrchr(p, m_first[1], span) : nullptr;
+        if (!a && !b) return -1;
+        const char* hit = static_cast<const char*>(!a ? b : !b ? a : std::max(a, b));
+        return static_cast<int>(hit - p);
+    }
+
+    const char* m_p;
+    int m_n;
+    bool m_bMatchCase;
+    unsigned char m_fold[256];
+    std::vector<unsigned char> m_folded;
+    unsigned char m_first[2];
+};
+
 }  // namespace
 
 int CTextZone::SameAsSelected(const char* pszText, int bMatchCase) {
@@ -80,27 +162,45 @@ int CTextZone::FindTextFromCurrentPos(const char* pszText, int bForward, int bMa
     }
     nChar = std::max(0, nChar);
 
-    auto matches = [&](const char* p) {
-        return (bMatchCase ? std::strncmp(p, pszText, static_cast<size_t>(n))
-                           : _strnicmp(p, pszText, static_cast<size_t>(n))) == 0;
-    };
-    const int nStep = bForward ? 1 : -1;
-    for (int L = nLine; L >= 0; L += nStep) {
-        CStringEx* pLine = GetLine(L);
-        if (!pLine) break;
-        const char* p = pLine->c_str();
-        const int nLength = pLine->GetLength();
-        int nFound = -1;
-        if (bForward) {
-            for (int i = L == nLine ? nChar : 0; i + n <= nLength && nFound < 0; ++i)
-                if (matches(p + i)) nFound = i;
-        } else {
-            int nTo = L == nLine ? std::min(nChar, nLength) : nLength;
-            for (int i = nTo - n; i >= 0 && nFound < 0; --i)
-                if (matches(p + i)) nFound = i;
+    // The lines are taken straight from the store's blocks, with the lengths
+    // kept beside them: a line too short for the word is not even opened.
+    if (m_bLengthsStale) RebuildLineLengths();
+    const Needle needle(pszText, n, bMatchCase != 0);
+    int b = 0;
+    int i = 0;
+    int L = nLine;
+    int nFound = -1;
+    CStringEx* pLine = nullptr;
+    int nLength = 0;
+    if (GetLineIndexes(nLine, &b, &i)) {
+        for (;;) {
+            pLine = m_ppBlocks[b][i];
+            nLength = SlotLength(m_ppLengths[b][i]);
+            if (bForward) {
+                const int from = L == nLine ? nChar : 0;
+                if (nLength - from >= n) nFound = needle.Forward(pLine->c_str(), nLength, from);
+            } else {
+                const int to = L == nLine ? std::min(nChar, nLength) : nLength;
+                if (to >= n) nFound = needle.Backward(pLine->c_str(), to);
+            }
+            if (nFound >= 0) break;
+            if (bForward) {
+                ++L;
+                for (++i; b < m_nBlockCount && i >= m_pBlockSizes[b]; i = 0)
+                    ++b;
+                if (b >= m_nBlockCount) break;
+            } else {
+                if (--L < 0) break;
+                for (--i; i < 0;) {
+                    if (--b < 0) break;
+                    i = m_pBlockSizes[b] - 1;
+                }
+                if (b < 0) break;
+            }
         }
-        if (nFound < 0) continue;
-
+    }
+    if (nFound >= 0) {
+        GetLine(L);  // the lookup a walk would have ended on
         // A match that takes the line end in ends at the start of the next line.
         int nEndLine = L;
         int nEndChar = nFound + n;

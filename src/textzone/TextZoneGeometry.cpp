@@ -130,13 +130,13 @@ int CTextZone::ComputeCharIndex(int nLine, int nColumn) {
 
 int CTextZone::GetMaxLineWidth(int nFirst, int nLast) {
     if (nFirst < 1) nFirst = 0;
-    CStringEx* pLongest = nullptr;
-    for (int n = nFirst; n <= nLast; ++n) {
-        CStringEx* pLine = GetLine(n);
-        if (!pLine) break;
-        if (!pLongest || pLine->GetLength() > pLongest->GetLength()) pLongest = pLine;
-        if (n == TZ_TO_END) break;
-    }
+    // The longest line (most bytes, the first of equals) of the lines from
+    // nFirst on, up to nLast or the first missing one. The store keeps every
+    // line's length, so this is found without visiting the lines; the first
+    // lookup is the walk's own, which a stale cache may answer with null.
+    if (nLast < nFirst || !GetLine(nFirst)) return 0;
+    const int nLongest = FindLongestLine(nFirst, std::min(nLast, m_nLineCount - 1));
+    CStringEx* pLongest = nLongest >= 0 ? GetLine(nLongest) : nullptr;
     if (!pLongest) return 0;
     CDC* pDC = GetStandardDC();
     int w = GetTextWidth(pDC, pLongest->c_str(), pLongest->GetLength() - pLongest->IsEnded());

@@ -83,10 +83,11 @@ LONG CTextZone::GetHScrollOffset() {
 LONG CTextZone::GetVScrollOffset() {
     int first = CZoneScroll(*this, true).GetPos() * m_nLinesPerUnit + m_nUnitRemainder;
     if (!(m_dwStyle & ZS_VARHEIGHT)) return first * m_nLineHeight;
-    LONG offset = 0;
-    for (int n = 0; n < first; ++n)
-        offset += GetLineHeight(n);
-    return offset;
+    if (first <= 0) return 0;
+    if (m_nLineCount == 0) return first * m_nLineHeight;
+    // Hidden lines take no room; the store counts them per block.
+    const int stop = std::min(first, m_nLineCount);
+    return static_cast<LONG>((first - HiddenBefore(stop)) * m_nLineHeight);
 }
 
 // Moves what is on screen by (dx, dy) and asks for what that uncovers.

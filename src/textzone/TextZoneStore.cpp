@@ -31,6 +31,9 @@ void ForgetParents(BlockList& blocks, const std::unordered_set<const CEditBlk*>&
 CTextZone::CTextZone() {
     m_ppBlocks = std::make_unique<std::unique_ptr<CStringEx*[]>[]>(m_nGranularity);
     m_pBlockSizes = std::make_unique<int[]>(m_nGranularity);
+    m_ppLengths = std::make_unique<std::unique_ptr<int[]>[]>(m_nGranularity);
+    m_pBlockLongest = std::make_unique<int[]>(m_nGranularity);
+    m_pBlockHidden = std::make_unique<int[]>(m_nGranularity);
     m_crBookmark[0] = 0x00FF00;
     for (int i = 1; i < 16; ++i)
         m_crBookmark[i] = static_cast<COLORREF>((i * 16) | ((255 - i * 16) << 16));
@@ -48,6 +51,7 @@ CTextZone::~CTextZone() {
     m_pCurrentOperation.reset();
     m_undoList.clear();
     m_redoList.clear();
+    ReleaseIndex(m_nZoneIndex);
 }
 
 CStringEx* CTextZone::CreateLine() {
@@ -96,6 +100,7 @@ int CTextZone::GetLineIndexes(int nLine, int* pBlock, int* pIndex) {
     m_nCacheLine = nLine;
     m_nCacheBlock = b;
     m_nCacheIndex = i;
+    RememberPlace(b, i);
     return 1;
 }
 
@@ -131,8 +136,8 @@ CStringEx* CTextZone::InsertLine(int nLine) {
 
         if (b >= m_nBlockCount) {
             if (m_nBlockCount < g) {
-                m_ppBlocks[b] = std::make_unique<CStringEx*[]>(g);
-                m_ppBlocks[b][0] = pNew;
+                NewStoreBlock(b);
+                PutSlot(b, 0, pNew);
                 m_pBlockSizes[b] = 1;
                 ++m_nBlockCount;
                 break;
@@ -141,48 +146,43 @@ CStringEx* CTextZone::InsertLine(int nLine) {
             continue;
         }
 
-        CStringEx** block = m_ppBlocks[b].get();
         int& size = m_pBlockSizes[b];
         // Moves the last entry of the full block b to the front of b + 1 and
         // makes room at i.
         auto spillForward = [&] {
-            CStringEx** next = m_ppBlocks[b + 1].get();
-            MoveEntries(next + 1, next, m_pBlockSizes[b + 1]);
-            next[0] = block[g - 1];
+            MoveSlots(b + 1, 1, b + 1, 0, m_pBlockSizes[b + 1]);
+            MoveSlots(b + 1, 0, b, g - 1, 1);
             ++m_pBlockSizes[b + 1];
-            MoveEntries(block + i + 1, block + i, g - 1 - i);
-            block[i] = pNew;
+            MoveSlots(b, i + 1, b, i, g - 1 - i);
+            PutSlot(b, i, pNew);
         };
 
         if (size < g) {
-            MoveEntries(block + i + 1, block + i, size - i);
-            block[i] = pNew;
+            MoveSlots(b, i + 1, b, i, size - i);
+            PutSlot(b, i, pNew);
             ++size;
         } else if (b > 0 && m_pBlockSizes[b - 1] < g) {
-            CStringEx** prev = m_ppBlocks[b - 1].get();
+            const int end = m_pBlockSizes[b - 1]++;
             if (i - 1 < 0) {
-                prev[m_pBlockSizes[b - 1]++] = pNew;
+                PutSlot(b - 1, end, pNew);
             } else {
-                prev[m_pBlockSizes[b - 1]++] = block[0];
-                MoveEntries(block, block + 1, i - 1);
-                block[i - 1] = pNew;
+                MoveSlots(b - 1, end, b, 0, 1);
+                MoveSlots(b, 0, b, 1, i - 1);
+                PutSlot(b, i - 1, pNew);
             }
             m_nCacheLine = -1;
         } else if (b + 1 >= m_nBlockCount && m_nBlockCount < g) {
-            m_ppBlocks[b + 1] = std::make_unique<CStringEx*[]>(g);
+            NewStoreBlock(b + 1);
             m_pBlockSizes[b + 1] = 0;
             ++m_nBlockCount;
             spillForward();
         } else if (b + 1 < m_nBlockCount && m_pBlockSizes[b + 1] < g) {
             spillForward();
         } else if (m_nBlockCount < g && b + 1 < g) {
-            for (int k = m_nBlockCount; k > b + 1; --k) {
-                m_ppBlocks[k] = std::move(m_ppBlocks[k - 1]);
-                m_pBlockSizes[k] = m_pBlockSizes[k - 1];
-            }
-            m_ppBlocks[b + 1] = std::make_unique<CStringEx*[]>(g);
-            m_pBlockSizes[b + 1] = 0;
+            MoveDirectory(b + 2, b + 1);
             ++m_nBlockCount;
+            NewStoreBlock(b + 1);
+            m_pBlockSizes[b + 1] = 0;
             spillForward();
         } else {
             ExtendGranularity();
@@ -203,23 +203,35 @@ CStringEx* CTextZone::InsertLine(int nLine) {
 int CTextZone::ExtendGranularity() {
     const int g = m_nGranularity + 10;
     auto blocks = std::make_unique<std::unique_ptr<CStringEx*[]>[]>(g);
+    auto lengths = std::make_unique<std::unique_ptr<int[]>[]>(g);
     auto sizes = std::make_unique<int[]>(g);
+    auto longest = std::make_unique<int[]>(g);
+    auto hidden = std::make_unique<int[]>(g);
+    // Every block is written before it is read, so none is zero-filled.
+    auto newBlock = [&](int nBlock) {
+        blocks[nBlock] = std::make_unique_for_overwrite<CStringEx*[]>(static_cast<size_t>(g));
+        lengths[nBlock] = std::make_unique_for_overwrite<int[]>(static_cast<size_t>(g));
+        longest[nBlock] = -1;
+        hidden[nBlock] = -1;
+    };
     int nBlock = 0;
     int nFill = 0;
-    blocks[0] = std::make_unique<CStringEx*[]>(g);
-    CStringEx** target = blocks[0].get();
+    newBlock(0);
     for (int b = 0; b < m_nBlockCount; ++b) {
         CStringEx** source = m_ppBlocks[b].get();
+        const int* sourceLengths = m_ppLengths[b].get();
         for (int nLeft = m_pBlockSizes[b]; nLeft > 0;) {
             int n = std::min(nLeft, g - nFill);
-            MoveEntries(target + nFill, source, n);
+            MoveEntries(blocks[nBlock].get() + nFill, source, n);
+            std::memcpy(lengths[nBlock].get() + nFill, sourceLengths,
+                        sizeof(int) * static_cast<size_t>(n));
             source += n;
+            sourceLengths += n;
             nLeft -= n;
             nFill += n;
             if (nFill == g) {
                 sizes[nBlock++] = g;
-                blocks[nBlock] = std::make_unique<CStringEx*[]>(g);
-                target = blocks[nBlock].get();
+                newBlock(nBlock);
                 nFill = 0;
             }
         }
@@ -227,7 +239,10 @@ int CTextZone::ExtendGranularity() {
     sizes[nBlock] = nFill;
 
     m_ppBlocks = std::move(blocks);
+    m_ppLengths = std::move(lengths);
     m_pBlockSizes = std::move(sizes);
+    m_pBlockLongest = std::move(longest);
+    m_pBlockHidden = std::move(hidden);
     m_nGranularity = g;
     m_nBlockCount = nBlock + 1;
     m_nCacheLine = -1;
@@ -285,6 +300,7 @@ void CTextZone::RemoveLines(int nFirst, int nCount) {
         }
         delete m_ppBlocks[b1][i1];
         m_ppBlocks[b1][i1] = nullptr;
+        ForgetLongest(b1);
         ++i1;
         --n;
         --m_nLineCount;
@@ -296,11 +312,8 @@ void CTextZone::RemoveLines(int nFirst, int nCount) {
 
     auto removeBlocks = [&](int nFrom, int nBlocks) {
         for (int k = nFrom; k < nFrom + nBlocks; ++k)
-            m_ppBlocks[k].reset();
-        for (int k = nFrom + nBlocks; k < m_nBlockCount; ++k) {
-            m_ppBlocks[k - nBlocks] = std::move(m_ppBlocks[k]);
-            m_pBlockSizes[k - nBlocks] = m_pBlockSizes[k];
-        }
+            FreeStoreBlock(k);
+        MoveDirectory(nFrom, nFrom + nBlocks);
         for (int k = m_nBlockCount - nBlocks; k < m_nBlockCount; ++k)
             m_pBlockSizes[k] = 0;
         m_nBlockCount -= nBlocks;
@@ -313,19 +326,16 @@ void CTextZone::RemoveLines(int nFirst, int nCount) {
 
     const int g = m_nGranularity;
     if (b1 == b0) {
-        CStringEx** block = m_ppBlocks[b0].get();
-        MoveEntries(block + i0, block + i1, m_pBlockSizes[b0] - i1);
+        MoveSlots(b0, i0, b0, i1, m_pBlockSizes[b0] - i1);
         m_pBlockSizes[b0] -= i1 - i0;
     } else {
         m_pBlockSizes[b0] = i0;
         if (i1 > 0) {
-            CStringEx** block = m_ppBlocks[b1].get();
-            MoveEntries(block, block + i1, m_pBlockSizes[b1] - i1);
+            MoveSlots(b1, 0, b1, i1, m_pBlockSizes[b1] - i1);
             m_pBlockSizes[b1] -= i1;
         }
         if (b1 < m_nBlockCount && m_pBlockSizes[b0] + m_pBlockSizes[b1] < g) {
-            MoveEntries(m_ppBlocks[b0].get() + m_pBlockSizes[b0], m_ppBlocks[b1].get(),
-                        m_pBlockSizes[b1]);
+            MoveSlots(b0, m_pBlockSizes[b0], b1, 0, m_pBlockSizes[b1]);
             m_pBlockSizes[b0] += m_pBlockSizes[b1];
             removeBlocks(b1, 1);
             m_nCacheLine = -1;
@@ -364,10 +374,11 @@ void CTextZone::FreeAllLines() {
     for (int b = 0; b < m_nBlockCount; ++b) {
         for (int k = 0; k < m_pBlockSizes[b]; ++k)
             delete m_ppBlocks[b][k];
-        m_ppBlocks[b].reset();
+        FreeStoreBlock(b);
         m_pBlockSizes[b] = 0;
     }
     m_nBlockCount = 0;
+    m_bLengthsStale = false;
     m_nLineCount = 0;
     m_nCurrentLength = 0;
     m_nCacheLine = -1;

@@ -111,9 +111,8 @@ void CTextZone::GetText(char* pBuffer, LONG lSize, WORD wFlags) {
 
     LONG count = 0;
     CStringEx copy;
-    for (int nLine = 0;; ++nLine) {
-        CStringEx* pLine = GetLine(nLine);
-        if (!pLine) break;
+    // The lines in order straight from the store's blocks.
+    ForEachStoredLine([&](CStringEx* pLine) {
         CStringEx* p = ReadyLine(pLine, wFlags, pDC != nullptr, copy, measure);
         int bEnded = p->IsEnded();
         LONG n = std::min<LONG>(p->GetLength() - bEnded, lSize - 1 - count);
@@ -126,8 +125,8 @@ void CTextZone::GetText(char* pBuffer, LONG lSize, WORD wFlags) {
             std::memcpy(pBuffer + count, eol.text, static_cast<size_t>(eol.length));
             count += eol.length;
         }
-        if (count >= lSize - 1) break;
-    }
+        return count < lSize - 1;
+    });
     if (!(wFlags & TF_NO_FINAL_END) && count >= 1 && count < lSize - 2 &&
         pBuffer[count - 1] != kCR && pBuffer[count - 1] != kLF) {
         std::memcpy(pBuffer + count, eol.text, static_cast<size_t>(eol.length));
@@ -145,15 +144,14 @@ LONG CTextZone::GetTextLength(WORD wFlags) {
     LONG total = 0;
     CStringEx copy;
     CStringEx* pLast = nullptr;
-    for (int nLine = 0;; ++nLine) {
-        CStringEx* pLine = GetLine(nLine);
-        if (!pLine) break;
+    ForEachStoredLine([&](CStringEx* pLine) {
         CStringEx* p = ReadyLine(pLine, wFlags, pDC != nullptr, copy, measure);
         int bEnded = p->IsEnded();
         total += p->GetLength() - bEnded;
         if (bEnded || (wFlags & TF_WRAPPED_ENDS)) total += eol.length;
         pLast = pLine;
-    }
+        return true;
+    });
     // Asks the stored line, not what was counted: with TF_WRAPPED_ENDS this
     // is one line end more than GetText writes, which is fine for a buffer size.
     if (!(wFlags & TF_NO_FINAL_END) && pLast && !pLast->IsEnded()) total += eol.length;

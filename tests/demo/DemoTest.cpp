@@ -78,6 +78,26 @@ TEST_F(DemoTest, FilesOpenAndSaveByteForByte) {
     ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
     EXPECT_EQ(saved.readAll(), QByteArray("a\nb\n"));
     EXPECT_FALSE(m_window.OpenFile(m_dir.filePath("missing.sql")));
+
+    // The file is mapped: one that fills its last page exactly, a 0 byte
+    // (a blank in the text, the file untouched), a CR last, and no bytes.
+    QByteArray page(4096, 'x');
+    page[100] = '\n';
+    page[4095] = '\r';
+    page[7] = 0;
+    const QString pagePath = Write(page);
+    ASSERT_TRUE(m_window.OpenFile(pagePath));
+    QByteArray expected = page;
+    expected[7] = ' ';
+    expected.replace('\n', "\r\n");
+    expected.replace("\r\r\n", "\r\n");
+    expected.chop(1);
+    EXPECT_EQ(Text(), (expected + "\r\n").toStdString());
+    QFile original(pagePath);
+    ASSERT_TRUE(original.open(QIODevice::ReadOnly));
+    EXPECT_EQ(original.readAll(), page);
+    ASSERT_TRUE(m_window.OpenFile(Write(QByteArray())));
+    EXPECT_EQ(Text(), "");
 }
 
 TEST_F(DemoTest, RealTypingAndMouseSelectionReachTheEditor) {

@@ -210,6 +210,16 @@ TEST_F(InsertDeleteTest, TheLineLimitStopsTheInsertion) {
     zone.m_nPretended = TZ_MAX_LINES;
     EXPECT_EQ(zone.InsertText("more\r", 0, 1, 1), 0);
     EXPECT_EQ(zone.GetLineCount(), 2);
+
+    // A load stops at the limit the same way, the store sized or not: with
+    // room for three lines, the first line, the tail and two more.
+    zone.m_nPretended = TZ_MAX_LINES - 3;
+    EXPECT_EQ(zone.SetText("a\rb\rc\rd\re"), 0);
+    EXPECT_EQ(zone.GetLineCount(), 4);
+    EXPECT_EQ(line(0) + line(1) + line(2) + line(3), "a\rb\rc\r");
+    zone.m_nPretended = TZ_MAX_LINES + 1;
+    EXPECT_EQ(zone.SetText("a\rb\r"), 0);
+    EXPECT_EQ(zone.GetLineCount(), 0);
     zone.HideCaret();
 }
 

@@ -70,5 +70,5 @@ protected:
     std::string CrText() { return Text(TF_NO_FINAL_END); }
 
     DWORD& Bookmarks(int nLine) { return m_zone.GetLine(nLine)->m_dwBookmarks; }
-    DWORD& Flags(int nLine) { return m_zone.GetLine(nLine)->m_dwBlockFlags; }
+    CLineFlags& Flags(int nLine) { return m_zone.GetLine(nLine)->m_dwBlockFlags; }
 };

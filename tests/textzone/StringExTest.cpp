@@ -174,6 +174,13 @@ TEST(StringEx, CopiesCarryBookmarksAndBlockFlags) {
     EXPECT_EQ(Bytes(b), "x");
     EXPECT_EQ(b.m_dwBookmarks, 0u);
     EXPECT_EQ(b.m_dwBlockFlags, 0u);
+    // So does assigning a text, which makes a fresh line of it first.
+    b.m_dwBookmarks = 1;
+    b.m_dwBlockFlags = 2;
+    b = "plain";
+    EXPECT_EQ(Bytes(b), "plain");
+    EXPECT_EQ(b.m_dwBookmarks, 0u);
+    EXPECT_EQ(b.m_dwBlockFlags, 0u);
 
     // Through the base, only the text changes.
     static_cast<VESK::String&>(a) = "new";
