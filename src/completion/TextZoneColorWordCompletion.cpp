@@ -137,8 +137,11 @@ void CTextZoneColor::InsertCandidate(const std::string& text) {
 
 void CTextZoneColor::CompleteInPlace(int nMode, bool bStarted, bool bShift) {
     if (!m_bCompleting) return;
-    if (!bStarted && (m_undoList.empty() || m_undoList.back().get() != m_pCompletionUndo)) {
-        // Another edit has taken place behind the cycle's back.
+    // Another edit has taken place behind the cycle's back. The kind is
+    // checked too: an operation freed by an undo and a new edit can come
+    // back at the same address.
+    if (!bStarted && (m_undoList.empty() || m_undoList.back().get() != m_pCompletionUndo ||
+                      m_undoList.back()->m_wType != kUndoWordCompletion)) {
         ResetWordCompletion();
         return;
     }

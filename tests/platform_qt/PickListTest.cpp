@@ -7,6 +7,7 @@
 #include <QListWidget>
 #include <QTest>
 #include <QTimer>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -49,15 +50,23 @@ protected:
     // keys are typed into the list once it is up, and what was seen of it
     // meanwhile is noted.
     void CompleteTyping(std::vector<Qt::Key> keys, quint32 nCtrlCode = 37) {
-        QTimer::singleShot(0, [this, keys] {
+        CompleteThen(
+            [keys](QWidget* target) {
+                for (Qt::Key key : keys)
+                    QTest::keyClick(target, key);
+            },
+            nCtrlCode);
+    }
+    // The same with any action on the widget that has the keyboard.
+    void CompleteThen(std::function<void(QWidget*)> action, quint32 nCtrlCode = 37) {
+        QTimer::singleShot(0, [this, action] {
             m_pList = m_pWindow->findChild<QListWidget*>();
             m_bShown = IsCompletionListShown();
             QWidget* target = QApplication::focusWidget() ? QApplication::focusWidget() : m_pWindow;
             m_bListHasKeyboard = m_pList && (target == m_pList || m_pList->isAncestorOf(target));
             if (m_pList) m_nRows = m_pList->count();
             m_nMode = m_zone.m_nCompletionMode;
-            for (Qt::Key key : keys)
-                QTest::keyClick(target, key);
+            action(target);
         });
         QKeyEvent ctrl(QEvent::KeyPress, Qt::Key_Control, Qt::ControlModifier, nCtrlCode, 0, 0);
         QApplication::sendEvent(m_pWindow, &ctrl);
@@ -115,6 +124,26 @@ TEST_F(PickListTest, RightCtrlAsksForTheHostsWordsAlone) {
     ASSERT_NE(m_pList, nullptr) << "no list came up";
     EXPECT_EQ(m_nMode, 1);
     EXPECT_EQ(Text(), "x qqa \r\n");
+}
+
+TEST_F(PickListTest, ADoubleClickAcceptsAndAClickElsewhereCancels) {
+    CompleteThen([this](QWidget*) {
+        if (!m_pList) return;
+        const QPoint second = m_pList->visualItemRect(m_pList->item(1)).center();
+        QTest::mouseDClick(m_pList->viewport(), Qt::LeftButton, {}, second);
+    });
+    ASSERT_NE(m_pList, nullptr) << "no list came up";
+    EXPECT_EQ(Text(), "x qqb \r\n");
+
+    m_editor.Editor().SetWindowTextA("x qq");
+    m_editor.Editor().SetSel(4, 4);
+    m_pList = nullptr;
+    // The click goes where it was meant: it also puts the caret at the start.
+    CompleteThen([this](QWidget*) { QTest::mouseClick(m_pWindow, Qt::LeftButton, {}, {2, 2}); });
+    ASSERT_NE(m_pList, nullptr) << "no list came up";
+    EXPECT_EQ(Text(), "x qq\r\n");
+    EXPECT_EQ(m_pWindow->findChild<QListWidget*>(), nullptr);
+    EXPECT_EQ(m_zone.m_nSelStartChar, 0);
 }
 
 }  // namespace

@@ -104,6 +104,11 @@ bool CQtPickList::eventFilter(QObject* pWatched, QEvent* pEvent) {
         case QEvent::MouseButtonDblClick:
             if (IsOnList(pWatched) && pWatched == m_pList->viewport() &&
                 static_cast<QMouseEvent*>(pEvent)->button() == Qt::LeftButton) {
+                // The row under the double click is the one picked, whether
+                // or not its first press reached the list.
+                const QPoint at = static_cast<QMouseEvent*>(pEvent)->position().toPoint();
+                if (const QModelIndex index = m_pList->indexAt(at); index.isValid())
+                    m_pList->setCurrentRow(index.row());
                 Finish(true);
                 return true;
             }
