@@ -50,7 +50,7 @@ CTextZoneColor::CTextZoneColor() {
 }
 
 CTextZoneColor::~CTextZoneColor() {
-    CloseParmTooltip(1);
+    FreeParmCompletion();
     // Lines are CStringExColor objects made by CreateLine: the base frees them.
 }
 

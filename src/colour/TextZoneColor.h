@@ -10,9 +10,8 @@
 // states and delimiter search), TextZoneColorRuns.cpp (DefineColors),
 // TextZoneColorJcl.cpp, TextZoneColorMarkup*.cpp and TextZoneColorEmbedded.cpp
 // (markup and the script embedded in it), TextZoneColorDraw.cpp
-// (DrawTextLine), TextZoneColorKeys.cpp (HandleKeyDown),
-// TextZoneColorLater.cpp (parameter tooltips, not in this zone yet);
-// word completion is in completion/.
+// (DrawTextLine), TextZoneColorKeys.cpp (HandleKeyDown); word completion
+// and the parameter tooltips are in completion/.
 #pragma once
 
 #include <cstdint>
@@ -178,6 +177,19 @@ protected:
     // BuildEmbeddedColor on the bytes [nFrom, nTo) of text.
     void ColorEmbeddedPiece(const std::string& text, int nFrom, int nTo, std::uint32_t nType,
                             bool bJava);
+
+    // --- Parameter tooltips (completion/ParmCompletion*.cpp) ---
+    // Frees the answers, questions, open calls and the tooltip of the zone.
+    void FreeParmCompletion();
+    // Types the name of parameter nParm of the newest call unless the text
+    // already goes on with it; bComma puts a blank before it.
+    void InsertParmName(int nParm, bool bComma);
+    // Where the tooltip of a call hangs, in the window's client coordinates.
+    POINT ParmTooltipPlace(const COpenParmComp* pComp);
+    // Whether a blank behind the name of a call without parentheses opens
+    // it, given the calls open already; closes the only one when the new
+    // name just adds a group number to it.
+    bool BlankCallMayOpen(bool bGroup, const std::string& name);
 
     // --- Drawing and the edit wrappers (TextZoneColorDraw.cpp,
     // TextZoneColorEdit.cpp, TextZoneColorKeys.cpp) ---

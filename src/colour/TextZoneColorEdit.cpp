@@ -81,10 +81,6 @@ void CTextZoneColor::HandleKillFocus(CWnd* pNewWnd) {
     CTextZone::HandleKillFocus(pNewWnd);
 }
 
-LONG CTextZoneColor::HandleUserMessage(std::uint64_t wParam, std::int64_t lParam) {
-    return CTextZone::HandleUserMessage(wParam, lParam);
-}
-
 void CTextZoneColor::PerformUndoing(CUndoOperation* pOperation) {
     // Kinds 6 and 7 restore lines in place; the others replay through the
     // wrapped edits, which invalidate for themselves.
