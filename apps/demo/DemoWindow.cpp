@@ -6,8 +6,10 @@
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QPixmap>
+#include <QSplitter>
 #include <QStatusBar>
-
+#include <algorithm>
+#include <cctype>
 #include <cstring>
 #include <memory>
 #include <string>
@@ -16,8 +18,22 @@
 
 CDemoWindow::CDemoWindow(QWidget* pParent)
     : QMainWindow(pParent), m_pZone(std::make_unique<CTextZoneColor>()) {
-    m_pEditor = new CQtEditorWidget(this, WS_VSCROLL | WS_HSCROLL | WS_BORDER, m_pZone.get());
-    setCentralWidget(m_pEditor);
+    auto* pSplitter = new QSplitter(Qt::Vertical, this);
+    m_pEditor = new CQtEditorWidget(pSplitter, WS_VSCROLL | WS_HSCROLL | WS_BORDER, m_pZone.get());
+    m_pReport = new CReportPane(pSplitter);
+    pSplitter->addWidget(m_pEditor);
+    pSplitter->addWidget(m_pReport);
+    pSplitter->setStretchFactor(0, 3);
+    pSplitter->setStretchFactor(1, 1);
+    setCentralWidget(pSplitter);
+    // A link in the report puts the caret on its place in the editor.
+    m_pReport->SetOpenHandler([this](int nLine, int nChar) {
+        CTextZone& zone = m_pEditor->Zone();
+        zone.SetSelection(nLine, nLine, nChar, nChar, 0, 1);
+        zone.DrawCaret(1, 1);
+        m_pEditor->setFocus();
+        UpdateStatus();
+    });
     m_pStatus = new QLabel(this);
     statusBar()->addWidget(m_pStatus);
     m_pLanguage = new QLabel(this);
@@ -40,6 +56,14 @@ CDemoWindow::CDemoWindow(QWidget* pParent)
     });
     pFile->addSeparator();
     pFile->addAction("&Quit", QKeySequence::Quit, [this] { close(); });
+    QMenu* pSearch = menuBar()->addMenu("&Search");
+    pSearch->addAction("&List Lines With Selection", QKeySequence(Qt::CTRL | Qt::Key_L), [this] {
+        CTextZone& zone = m_pEditor->Zone();
+        std::string selected(static_cast<size_t>(zone.GetSelectedTextLength(TF_CRLF)) + 2, '\0');
+        zone.GetSelectedText(selected.data(), static_cast<LONG>(selected.size()), TF_CRLF);
+        selected.resize(std::char_traits<char>::length(selected.c_str()));
+        if (selected.find_first_of("\r\n") == std::string::npos) ReportWord(selected);
+    });
 
     m_pEditor->SetChangeHandler([this] { UpdateTitle(); });
     // The control tells of changes, not of caret moves: the status line looks.
@@ -103,10 +127,23 @@ bool CDemoWindow::OpenFile(const QString& path) {
         *p = ' ';
     if (!m_bLanguageChosen) ApplyLanguage(CLanguageChoice::ForPath(path.toStdString()));
     m_pEditor->Editor().SetWindowTextA(text);
+    // A first report: the lines of the first long word near the top.
+    std::string word;
+    for (size_t i = 0; i <= std::min<size_t>(n, 4096); ++i) {
+        const unsigned char c = i < n ? static_cast<unsigned char>(text[i]) : ' ';
+        if (std::isalnum(c) || c == '_') {
+            word += static_cast<char>(c);
+        } else if (word.size() >= 4) {
+            break;
+        } else {
+            word.clear();
+        }
+    }
     if (pMap) file.unmap(pMap);
     // A file opens at its top, the caret at its start.
     m_pEditor->Editor().SetSel(0, 0);
     m_path = path;
+    ReportWord(word);
     UpdateTitle();
     UpdateStatus();
     return true;
@@ -128,6 +165,11 @@ bool CDemoWindow::SaveFile(const QString& path) {
     m_pEditor->Editor().SetModify(0);
     UpdateTitle();
     return true;
+}
+
+void CDemoWindow::ReportWord(const std::string& word) {
+    const QString title = m_path.isEmpty() ? QString("Untitled") : QFileInfo(m_path).fileName();
+    m_pReport->ShowMatches(title, m_pEditor->Zone(), word);
 }
 
 QString CDemoWindow::CaretText() {

@@ -1,6 +1,7 @@
-// The demo host: a main window with one editor control filling it, a File
-// menu that opens and saves 8-bit files, and a status line that tells the
-// caret's line and column and the language. The control works on a
+// The demo host: a main window with an editor control and, under it, a
+// report pane of results that link back into the editor; a File menu that
+// opens and saves 8-bit files, and a status line that tells the caret's
+// line and column and the language. The control works on a
 // coloured zone of the window's own; a file is coloured by its extension
 // unless a language was chosen.
 #pragma once
@@ -13,6 +14,7 @@
 #include <memory>
 
 #include "apps/common/LanguageChoice.h"
+#include "apps/demo/ReportPane.h"
 #include "colour/TextZoneColor.h"
 #include "editor/qt/QtEditorWidget.h"
 
@@ -22,6 +24,9 @@ public:
     ~CDemoWindow() override;
 
     CQtEditorWidget& EditorWidget() { return *m_pEditor; }
+    CReportPane& Report() { return *m_pReport; }
+    // Lists the lines of the text that hold a word in the report pane.
+    void ReportWord(const std::string& word);
     // Loads a file as it is, byte for byte; false if it cannot be read.
     bool OpenFile(const QString& path);
     // Writes the text with the line ends the file was read with.
@@ -42,6 +47,7 @@ private:
 
     std::unique_ptr<CTextZoneColor> m_pZone;  // outlives the control that borrows it
     CQtEditorWidget* m_pEditor;
+    CReportPane* m_pReport;
     QLabel* m_pStatus;
     QLabel* m_pLanguage;
     CLanguageChoice m_language;

@@ -1,4 +1,5 @@
 #include "textzone/StringEx.h"
+#include "textzone/TextBytes.h"
 
 #include <cstdarg>
 #include <cstddef>
@@ -12,9 +13,7 @@ namespace {
 
 constexpr char kLineEnd = 13;
 
-bool IsBlank(char c) {
-    return c == ' ' || c == '\t';
-}
+using textbytes::IsBlank;
 
 // Taken as unsigned so that no byte of 128 or above can pass for one.
 bool IsWrapDelimiter(char c) {
@@ -228,12 +227,14 @@ void CStringEx::TransferStartingSpaces(CStringEx& target) {
     discardLeft(n);
 }
 
+// Hosts may set any of the 32 bits, so the text carries the whole word,
+// unsigned: ten digits and the 0.
 char* CStringEx::GetSpecificInfo() {
-    char* pszInfo = new char[10];
-    std::snprintf(pszInfo, 10, "%d", static_cast<int>(m_dwBookmarks));
+    char* pszInfo = new char[11];
+    std::snprintf(pszInfo, 11, "%u", static_cast<unsigned>(m_dwBookmarks));
     return pszInfo;
 }
 
 void CStringEx::SetSpecificInfo(char* pszInfo) {
-    m_dwBookmarks = pszInfo ? static_cast<DWORD>(std::atoi(pszInfo)) : 0;
+    m_dwBookmarks = pszInfo ? static_cast<DWORD>(std::strtoul(pszInfo, nullptr, 10)) : 0;
 }

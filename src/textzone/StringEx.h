@@ -12,6 +12,11 @@
 
 class CTextZone;
 
+// Block flags of a line.
+constexpr DWORD BF_OPEN_HEAD = 1;    // first line of an open block
+constexpr DWORD BF_CLOSED_HEAD = 2;  // first line of a closed block
+constexpr DWORD BF_HIDDEN = 4;       // inside a closed block
+
 class CStringEx : public VESK::String {
 public:
     CStringEx() = default;

@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <list>
 #include <memory>
+#include <string>
 
 #include "host/GraphicText.h"
 #include "host/VeskString.h"
@@ -39,6 +40,36 @@ constexpr int TZ_MAX_LINE_LENGTH = 65500;       // bytes of text on a line
 constexpr int TZ_MAX_PARAGRAPH_LINE = 0x10000;  // the same with ZS_PARAGRAPH
 constexpr int TZ_MAX_UNDO = 100;
 constexpr int TZ_TO_END = 0x7FFFFFFF;  // a last line meaning "to the end"
+// No character or column of a selection lies beyond the longest line there
+// can be: places further out come from hosts and would only overflow sums.
+constexpr int TZ_MAX_PLACE = TZ_MAX_PARAGRAPH_LINE;
+
+// Selection modes.
+constexpr WORD TZ_SEL_LINES = 0;
+constexpr WORD TZ_SEL_STREAM = 1;
+constexpr WORD TZ_SEL_BOX = 2;
+
+// Kinds of an edit, as StartRegister files them for undo.
+constexpr short TZ_EDIT_TYPING = 1;
+constexpr short TZ_EDIT_DELETE = 2;
+constexpr short TZ_EDIT_BACKSPACE = 3;
+constexpr short TZ_EDIT_DELETE_SELECTION = 4;
+constexpr short TZ_EDIT_CUT = 5;
+constexpr short TZ_EDIT_PASTE = 6;
+constexpr short TZ_EDIT_REPLACE = 7;
+constexpr short TZ_EDIT_REPLACE_ALL = static_cast<short>(0x8008);
+constexpr short TZ_EDIT_INDENT = 9;
+constexpr short TZ_EDIT_UNINDENT = 10;
+constexpr short TZ_EDIT_DRAG = 11;
+
+// Kinds of an undo unit, what RegisterUnit records.
+constexpr WORD TZ_UNIT_DELETED_TEXT = 1;  // text a deletion took, to put back
+constexpr WORD TZ_UNIT_CHAR_BEFORE = 2;   // the byte Backspace takes
+constexpr WORD TZ_UNIT_CHAR_AT = 3;       // the byte Delete takes
+constexpr WORD TZ_UNIT_TYPED = 4;         // a range typed, to take out
+constexpr WORD TZ_UNIT_INSERTED = 5;      // a range inserted, to take out
+constexpr WORD TZ_UNIT_LINES = 6;         // lines before a box edit; restoring selects
+constexpr WORD TZ_UNIT_LINES_CARET = 7;   // the same; restoring leaves a caret
 
 // Text flags of the readers.
 constexpr WORD TF_LF = 1;              // line end LF (the two low bits)
@@ -218,6 +249,14 @@ public:
     virtual bool IsOleDropAllowed(UINT nFlags, POINT* pt);
 
     // Plain members.
+    // Whether undo records places as text offsets: with wrapped paragraphs
+    // line positions shift on every rewrap. Box mode never meets wrap.
+    bool UndoByOffsets() const {
+        return (m_dwStyle & ZS_PARAGRAPH) && m_nSelectionMode != TZ_SEL_BOX;
+    }
+    // The selected text as GetSelectedText writes it, in a buffer of just
+    // the room it needs.
+    std::string GetSelectedTextString(WORD wFlags);
     void CollapseCurrentSel();
     void ExpandCurrentSel();
     void GetTextCRCValues(int* pSize, int* pHash);
@@ -377,7 +416,7 @@ public:
     int m_bCaretShown = 0;
     int m_bMouseSelecting = 0;
     int m_bNoBlock = 0;
-    WORD m_nSelectionMode = 1;  // 0 lines, 1 stream, 2 box
+    WORD m_nSelectionMode = TZ_SEL_STREAM;
     CScrollBar* m_pHScrollBar = nullptr;
     CScrollBar* m_pVScrollBar = nullptr;
     int m_nLinesPerUnit = 1;

@@ -15,7 +15,7 @@ long long EndOf(const CEditBlk& blk) {
 // Marks a line as the head of an open block. A head that another block
 // keeps closed stays closed: the two head bits exclude each other.
 void MarkOpenHead(CStringEx* pLine) {
-    if (pLine && !(pLine->m_dwBlockFlags & 2)) pLine->m_dwBlockFlags |= 1;
+    if (pLine && !(pLine->m_dwBlockFlags & BF_CLOSED_HEAD)) pLine->m_dwBlockFlags |= BF_OPEN_HEAD;
 }
 
 // A range of lines to redraw, empty until the first line is added.
@@ -34,15 +34,17 @@ void ToggleHeadAtCaret(CTextZone& zone) {
     const int nLine = zone.m_nSelStartLine;
     CStringEx* pLine = zone.GetLine(nLine);
     if (!pLine) return;
-    if ((pLine->m_dwBlockFlags & 3) == 1)
+    if ((pLine->m_dwBlockFlags & (BF_OPEN_HEAD | BF_CLOSED_HEAD)) == BF_OPEN_HEAD)
         zone.CloseBlock(nLine, 1);
-    else if ((pLine->m_dwBlockFlags & 3) == 2)
+    else if ((pLine->m_dwBlockFlags & (BF_OPEN_HEAD | BF_CLOSED_HEAD)) == BF_CLOSED_HEAD)
         zone.OpenBlock(nLine, 1);
 }
 
 }  // namespace
 
 int CTextZone::SetEditBlock(int nLine, int nCount) {
+    // No block reaches beyond the text.
+    if (nLine >= 0) nCount = std::min(nCount, GetLineCount() - nLine);
     const long long nEnd = static_cast<long long>(nLine) + nCount;
     for (auto& pBlk : m_editBlocks) {
         if (pBlk->m_nFirstLine != nLine) continue;
@@ -93,7 +95,9 @@ void CTextZone::BeginEditBlockInput() {
 }
 
 int CTextZone::AddEditBlockInput(int nLine, int nCount) {
-    if (nCount < 0) nCount = GetLineCount() - nLine;
+    // Only a block on a line of the text is taken, before any sum is made.
+    if (nLine < 0 || !GetLine(nLine)) return 0;
+    if (nCount < 0 || nCount > GetLineCount() - nLine) nCount = GetLineCount() - nLine;
     auto pos = m_inputBlocks.begin();
     for (; pos != m_inputBlocks.end() && (*pos)->m_nFirstLine <= nLine; ++pos) {
         if ((*pos)->m_nFirstLine == nLine) {
@@ -102,7 +106,6 @@ int CTextZone::AddEditBlockInput(int nLine, int nCount) {
             return 1;
         }
     }
-    if (nLine < 0 || !GetLine(nLine)) return 0;
     auto pNew = std::make_unique<CEditBlk>(nullptr);
     pNew->m_nFirstLine = nLine;
     pNew->m_nLineCount = nCount;
@@ -159,9 +162,9 @@ void CTextZone::EndEditBlockInput() {
                     CStringEx* pLine = GetLine(n);
                     if (!pLine) break;
                     if (bGrown)
-                        pLine->m_dwBlockFlags |= 4;
+                        pLine->m_dwBlockFlags |= BF_HIDDEN;
                     else if (!hiddenElsewhere(n, pNew))
-                        pLine->m_dwBlockFlags &= ~4u;
+                        pLine->m_dwBlockFlags &= ~BF_HIDDEN;
                     range.Add(n, n);
                 }
             }
@@ -177,12 +180,12 @@ void CTextZone::EndEditBlockInput() {
                 range.Add(nLine, nLine);
             }
             if (CStringEx* pLine = GetLine(nLine)) {
-                pLine->m_dwBlockFlags &= ~1u;
+                pLine->m_dwBlockFlags &= ~BF_OPEN_HEAD;
                 // An alternate block closed on this line keeps its head.
                 bool bAltHead =
                     std::any_of(m_altBlocks.begin(), m_altBlocks.end(),
                                 [nLine](const auto& p) { return p->m_nFirstLine == nLine; });
-                if (!bAltHead) pLine->m_dwBlockFlags &= ~2u;
+                if (!bAltHead) pLine->m_dwBlockFlags &= ~BF_CLOSED_HEAD;
             }
             ++itOld;
         }

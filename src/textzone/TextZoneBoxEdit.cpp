@@ -4,6 +4,7 @@
 // keeps its column.
 #include <algorithm>
 #include <cstring>
+#include <string>
 #include <vector>
 
 #include "platform/DC.h"
@@ -36,8 +37,12 @@ int CTextZone::BoxInsertText(const char* pszText, int nColumn, int bHadSelection
     const int limit = GetLineLimit();
 
     CDC* pDC = GetStandardDC();
+    const int spaceWidth = std::max(1, GetTextWidth(pDC, " ", 1) - GetTextWidth(pDC, "", 0));
     CStringEx* pFirst = GetLine(startLine);
     if (!pFirst) {
+        // The text goes on a line of its own, not onto an unended last line.
+        if (CStringEx* pAbove = startLine > 0 ? GetLine(startLine - 1) : nullptr)
+            pAbove->EnsureEnded();
         pFirst = InsertLine(startLine);
         if (!pFirst) {
             ReleaseStandardDC(pDC);
@@ -72,9 +77,15 @@ int CTextZone::BoxInsertText(const char* pszText, int nColumn, int bHadSelection
         }
         pLine->EnsureEnded();
 
-        // Short lines are padded in steps of 4 bytes until they reach the column.
-        while (BoxX(pDC, *pLine, pLine->GetLength() - 1) < targetX)
-            PadText(*pLine, pLine->GetLength() + 4);
+        // Short lines are padded in steps of 4 bytes until they reach the
+        // column; the steps a far column needs go on in one go.
+        for (int x = BoxX(pDC, *pLine, pLine->GetLength() - 1);
+             x < targetX && pLine->GetLength() < TZ_MAX_PLACE;
+             x = BoxX(pDC, *pLine, pLine->GetLength() - 1)) {
+            // One step takes the text to the raw length plus 4, 5 bytes more.
+            const int steps = std::max(1, (targetX - x) / spaceWidth / 5);
+            PadText(*pLine, pLine->GetLength() + 4 + 5 * (steps - 1));
+        }
 
         // The byte at the column. A tab that straddles it is kept, and spaces
         // go in front of it until the column is reached.
@@ -83,7 +94,7 @@ int CTextZone::BoxInsertText(const char* pszText, int nColumn, int bHadSelection
         if (idx > pLine->GetLength() - 1) PadText(*pLine, idx);
         int x = BoxX(pDC, *pLine, idx);
         if (x > targetX && idx > 0 && (*pLine)[idx - 1] == '\t') x = BoxX(pDC, *pLine, --idx);
-        while (x < targetX) {
+        while (x < targetX && idx < TZ_MAX_PLACE) {
             pLine->InsertChar(idx++, ' ');
             x = BoxX(pDC, *pLine, idx);
         }
@@ -121,9 +132,13 @@ int CTextZone::BoxInsertText(const char* pszText, int nColumn, int bHadSelection
                 buffer[static_cast<size_t>(idx + filled++)] = s < scanned ? p[s] : ' ';
             }
         }
-        const int newLength = rawLength + std::min(filled, TZ_MAX_LINE_LENGTH - rawLength);
+        // What passes the line limit is left out of the inserted piece, never
+        // cut from the line's own text and its end.
+        const int kept = std::clamp(TZ_MAX_LINE_LENGTH - rawLength, 0, filled);
+        std::string joined(buffer.data(), static_cast<size_t>(idx + kept));
+        joined.append(pLine->c_str() + idx, static_cast<size_t>(rawLength - idx));
         // A fresh line: the bookmarks and block flags of the line go.
-        *pLine = CStringEx(VESK::String(buffer.data(), newLength).c_str());
+        *pLine = CStringEx(joined.c_str());
         caretChar = idx + width;
         lastWritten = k;
         firstSource = false;
@@ -161,18 +176,27 @@ void CTextZone::BoxDeleteSelection() {
     auto textWidth = [&](const CStringEx& line, int nCount) {
         return BoxX(pDC, line, nCount) - m_rcText.left + GetHScrollOffset();
     };
+    const int spaceWidth = std::max(1, GetTextWidth(pDC, " ", 1) - GetTextWidth(pDC, "", 0));
     auto edgeIndex = [&](CStringEx* pLine, int bound) {
         POINT pt{bound, 0};
         int idx = GetCharIndexFromPoint(pLine, &pt);
         int x = BoxX(pDC, *pLine, idx);
         if (x > bound && idx > 0 && (*pLine)[idx - 1] == '\t') x = BoxX(pDC, *pLine, --idx);
-        while (x < bound) {
+        // Each step moves the index on by at least one byte, so the search
+        // ends even where a tab step is no whole number of byte widths and
+        // no byte boundary meets the edge.
+        while (x < bound && idx < TZ_MAX_PLACE) {
             const int textLength = pLine->GetLength() - pLine->IsEnded();
-            if (idx < textLength && (*pLine)[idx] == '\t') {
+            if (idx >= textLength) {
+                // Padded in one go: the spaces that reach the edge, at least one.
+                PadText(*pLine, textLength + std::max(1, (bound - x) / spaceWidth));
+                idx = textLength;
+            } else if ((*pLine)[idx] == '\t') {
                 // A zero step is taken as the default for good, so that the
                 // stop below is defined.
                 if (m_nTabWidth == 0) m_nTabWidth = 20;
-                const int step = std::max(1, m_nTabWidth > 0 ? m_nTabWidth : -m_nTabWidth * m_nCharWidth);
+                const int step =
+                    std::max(1, m_nTabWidth > 0 ? m_nTabWidth : -m_nTabWidth * m_nCharWidth);
                 const int margin = GetTextWidth(pDC, "", 0);
                 const int from = textWidth(*pLine, idx) - margin;
                 const int stop = margin + (from / step + 1) * step;
@@ -180,12 +204,12 @@ void CTextZone::BoxDeleteSelection() {
                 int n = idx + 1;
                 while (textWidth(*pLine, n) < stop)
                     pLine->InsertChar(n++, ' ');
-            } else if (idx < textLength) {
+            } else if (BoxX(pDC, *pLine, idx + 1) > bound) {
+                // A byte across the edge goes right of it.
                 pLine->InsertChar(idx, ' ');
-            } else {
-                PadText(*pLine, textLength + 1);
             }
-            idx = GetCharIndexFromPoint(pLine, &pt);
+            // The place is looked for again, but never behind the last one.
+            idx = std::max(idx + 1, GetCharIndexFromPoint(pLine, &pt));
             x = BoxX(pDC, *pLine, idx);
         }
         return idx;

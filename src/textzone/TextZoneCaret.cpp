@@ -45,7 +45,7 @@ void CTextZone::DrawCaret(int bScroll, int bHorizontal) {
 
     int line = GetSelMobileLine();
     int index = GetSelMobileChar();
-    const bool bColumns = bSelection && m_nSelectionMode == 2;
+    const bool bColumns = bSelection && m_nSelectionMode == TZ_SEL_BOX;
     // A stream that ends at the start of a line selects nothing there, so
     // there is nothing on that line to bring into view.
     if (bSelection && !bColumns && index == 0 && line == m_nSelEndLine && line > m_nSelStartLine)
@@ -186,19 +186,24 @@ LONG CTextZone::GetLinePosition(int nLine) {
 
 int CTextZone::GetLineHeight(int nLine) {
     CStringEx* line = GetLine(nLine);
-    if (line && (line->m_dwBlockFlags & 4)) return 0;
+    if (line && (line->m_dwBlockFlags & BF_HIDDEN)) return 0;
     return m_nLineHeight;
 }
 
 int CTextZone::GetLineTopPos(int nLine) {
-    int y = m_rcText.top - GetVScrollOffset();
-    if (!(m_dwStyle & ZS_VARHEIGHT)) return y + GetLineHeight(0) * nLine;
-    return y + GetLinePosition(nLine);
+    // A host may ask for any line: the sum is taken wide and held to int.
+    long long y = static_cast<long long>(m_rcText.top) - GetVScrollOffset();
+    if (!(m_dwStyle & ZS_VARHEIGHT))
+        y += static_cast<long long>(GetLineHeight(0)) * nLine;
+    else
+        y += GetLinePosition(nLine);
+    return static_cast<int>(std::clamp<long long>(y, INT_MIN, INT_MAX));
 }
 
 int CTextZone::GetLineFromPoint(POINT* pt) {
     if (!pt) return 0;
-    int y = std::max(0, static_cast<int>(pt->y - m_rcText.top + GetVScrollOffset()));
+    const long long yWide = static_cast<long long>(pt->y) - m_rcText.top + GetVScrollOffset();
+    int y = static_cast<int>(std::clamp<long long>(yWide, 0, INT_MAX));
     if (!(m_dwStyle & ZS_VARHEIGHT)) {
         int h = GetLineHeight(0);
         return h > 0 ? y / h : 0;

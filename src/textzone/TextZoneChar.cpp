@@ -9,14 +9,18 @@
 #include "textzone/TextZone.h"
 
 using textbytes::PadText;
+using textbytes::TextLength;
 
 void CTextZone::KeySetTypingRoot() {
     // Wrapped lines may move under the typing; only an offset stays true.
-    if ((m_dwStyle & ZS_PARAGRAPH) && m_nSelectionMode == 1) {
+    if (UndoByOffsets()) {
         GetSelection(&m_lSelRootOffset, nullptr, nullptr, nullptr, 1);
     } else {
+        // Behind a line's end the range to undo starts at its end, so that
+        // undo takes out any padding along with what was typed.
+        CStringEx* pLine = GetLine(m_nSelStartLine);
         m_nSelRootLine = m_nSelStartLine;
-        m_nSelRootChar = m_nSelStartChar;
+        m_nSelRootChar = std::min(m_nSelStartChar, pLine ? TextLength(*pLine) : 0);
     }
 }
 
@@ -72,7 +76,7 @@ void CTextZone::HandleChar(UINT nChar, UINT, UINT) {
     if (nChar < 32 || nChar > 255 || m_bReadOnly) return;
     const char c = static_cast<char>(nChar);
     SetModify(1);
-    StartRegister(1);
+    StartRegister(TZ_EDIT_TYPING);
 
     if (IsBoxCaret()) {
         // A tall caret types the character on each of its lines.
@@ -103,8 +107,13 @@ void CTextZone::HandleChar(UINT nChar, UINT, UINT) {
     }
 
     DeleteSelection(0);
-    if (GetLastLineIndex() >= TZ_MAX_LINES ||
-        (m_lMaxLength > 0 && m_nCurrentLength >= m_lMaxLength)) {
+    // A free caret behind a line's end pads the line: the blanks count
+    // against the maximum as much as the typed byte does.
+    CStringEx* pCaretLine = GetLine(m_nSelStartLine);
+    const int padding = std::max(0, m_nSelStartChar - (pCaretLine ? TextLength(*pCaretLine) : 0));
+    // A replay of the history puts back what was there, limits or not.
+    if (!m_bUndoing && (GetLastLineIndex() >= TZ_MAX_LINES ||
+                        (m_lMaxLength > 0 && m_nCurrentLength + padding >= m_lMaxLength))) {
         OnTextTooLong();
         EndRegister();
         if (m_pWnd && m_pWnd->GetSafeHwnd()) m_pWnd->UpdateWindow();
@@ -115,21 +124,29 @@ void CTextZone::HandleChar(UINT nChar, UINT, UINT) {
     int created = 0;
     CStringEx* pLine = KeyLineForTyping(&created);
     const int line = m_nSelStartLine;
+    // Undo takes the padding out together with the byte.
+    if (pLine && m_nSelRootLine == line && !UndoByOffsets())
+        m_nSelRootChar = std::min(m_nSelRootChar, TextLength(*pLine));
     int first = line;
     int last = line;
     if (pLine) {
         const int ch = m_nSelStartChar;
-        PadText(*pLine, ch);
+        const int before = pLine->GetLength();
         // A full line takes nothing more, silently.
-        if (pLine->GetLength() < GetLineLimit()) {
+        if (m_bUndoing || std::max(before, ch + pLine->IsEnded()) < GetLineLimit()) {
+            PadText(*pLine, ch);
             pLine->InsertChar(ch, c);
-            if (m_lMaxLength > 0) ++m_nCurrentLength;
+            if (m_lMaxLength > 0) m_nCurrentLength += pLine->GetLength() - before;
+            // In line mode the old selection's end is still elsewhere.
+            m_nSelEndLine = line;
             m_nSelStartChar = m_nSelEndChar = ch + 1;
             KeyRewrapTyped(line, created, &first, &last);
-            RegisterUnit(4);
+            RegisterUnit(TZ_UNIT_TYPED);
         }
     }
     EndRegister();
+    // A recount: a new unended last line adds the line end the length counts.
+    RebuildCurrentLength();
     UpdateVScrollBar();
     UpdateHScrollBar(first, last);
     RedrawLines(first, last, 1);

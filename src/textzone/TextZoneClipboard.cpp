@@ -28,12 +28,10 @@ public:
 int CTextZone::Copy() {
     if (!TestSelection()) return 0;
     CWaitCursor wait;
-    LONG size = GetSelectedTextLength(TF_CRLF) + 10;
-    std::vector<char> buffer(static_cast<size_t>(size), 0);
-    GetSelectedText(buffer.data(), size, TF_CRLF);
+    const std::string text = GetSelectedTextString(TF_CRLF);
     if (!OpenClipboard(m_pWnd)) return 0;
     EmptyClipboard();
-    BOOL taken = SetClipboardData(CF_TEXT, std::string(buffer.data()));
+    BOOL taken = SetClipboardData(CF_TEXT, text);
     CloseClipboard();
     return taken ? 1 : 0;
 }
@@ -43,7 +41,7 @@ int CTextZone::Cut() {
     int copied = Copy();
     if (copied && !m_bReadOnly) {
         SetModify(1);
-        StartRegister(5);
+        StartRegister(TZ_EDIT_CUT);
         DeleteSelection(1);
         EndRegister();
         UpdateVScrollBar();
@@ -67,7 +65,7 @@ int CTextZone::Paste() {
     const bool oneLine = text.find_first_of("\r\n") == std::string::npos;
 
     // A box caret over several lines takes a one-line text on every line.
-    if (oneLine && m_nSelectionMode == 2 && m_nSelStartChar == m_nSelEndChar &&
+    if (oneLine && m_nSelectionMode == TZ_SEL_BOX && m_nSelStartChar == m_nSelEndChar &&
         m_nSelStartLine != m_nSelEndLine) {
         const int startLine = m_nSelStartLine;
         const int endLine = m_nSelEndLine;
@@ -77,7 +75,7 @@ int CTextZone::Paste() {
         if (m_lMaxLength <= 0 ||
             static_cast<long long>(lines) * n + m_nCurrentLength <= m_lMaxLength) {
             SetModify(1);
-            StartRegister(1);
+            StartRegister(TZ_EDIT_TYPING);
             HideCaret();
             std::string all;
             all.reserve(static_cast<size_t>(lines) * (static_cast<size_t>(n) + 1));
@@ -103,7 +101,7 @@ int CTextZone::Paste() {
     }
     SetModify(1);
     CWaitCursor wait;
-    StartRegister(6);
+    StartRegister(TZ_EDIT_PASTE);
     InsertText(text.c_str(), 0, 1, 1);
     EndRegister();
     return 1;

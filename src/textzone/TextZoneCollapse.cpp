@@ -28,7 +28,7 @@ bool HideLines(CTextZone& zone, long long nFrom, long long nTo) {
     for (long long n = nFrom; n < nTo; ++n) {
         CStringEx* pLine = zone.GetLine(static_cast<int>(n));
         if (!pLine) break;
-        pLine->m_dwBlockFlags |= 4;
+        pLine->m_dwBlockFlags |= BF_HIDDEN;
         bAny = true;
     }
     return bAny;
@@ -63,7 +63,8 @@ int CTextZone::OpenBlock(int nLine, int bUpdate) {
     if (pBlk->m_bClosed) bChanged = true;
     pBlk->m_bClosed = 0;
     if (CStringEx* pHead = nLine >= 0 ? GetLine(nLine) : nullptr) {
-        DWORD dwFlags = (pHead->m_dwBlockFlags & ~3u) | (pEdit ? 1u : 0u);
+        DWORD dwFlags =
+            (pHead->m_dwBlockFlags & ~(BF_OPEN_HEAD | BF_CLOSED_HEAD)) | (pEdit ? 1u : 0u);
         if (dwFlags != pHead->m_dwBlockFlags) bChanged = true;
         pHead->m_dwBlockFlags = dwFlags;
     }
@@ -72,9 +73,16 @@ int CTextZone::OpenBlock(int nLine, int bUpdate) {
     const bool bParentClosed = pBlk == pEdit && pEdit->m_pParent && pEdit->m_pParent->IsClosed();
     if (!bParentClosed) {
         auto show = [&bChanged](CStringEx* pLine) {
-            if (pLine->m_dwBlockFlags & 4) bChanged = true;
-            pLine->m_dwBlockFlags &= ~4u;
+            if (pLine->m_dwBlockFlags & BF_HIDDEN) bChanged = true;
+            pLine->m_dwBlockFlags &= ~BF_HIDDEN;
         };
+        // An alternate block may lie in a closed block of the language,
+        // whose lines stay hidden: those blocks round its lines, found once.
+        std::vector<const CEditBlk*> closedRound;
+        if (pBlk != pEdit)
+            for (const auto& p : m_editBlocks)
+                if (p->m_nFirstLine < nEnd && EndOf(*p) > nLine + 1 && p->IsClosed())
+                    closedRound.push_back(p.get());
         auto itInner = std::find_if(m_editBlocks.begin(), m_editBlocks.end(),
                                     [nLine](const auto& p) { return p->m_nFirstLine > nLine; });
         for (long long n = static_cast<long long>(nLine) + 1; n < nEnd;) {
@@ -92,7 +100,10 @@ int CTextZone::OpenBlock(int nLine, int bUpdate) {
                 ++itInner;
                 continue;
             }
-            show(pLine);
+            const bool covered = std::any_of(closedRound.begin(), closedRound.end(), [n](auto* p) {
+                return p->m_nFirstLine < n && n < EndOf(*p);
+            });
+            if (!covered) show(pLine);
             ++n;
         }
     }
@@ -128,7 +139,7 @@ int CTextZone::CloseBlock(int nLine, int bUpdate) {
 
     CStringEx* pHead = GetLine(nLine);
     if (!pHead) return 0;
-    pHead->m_dwBlockFlags = (pHead->m_dwBlockFlags & ~1u) | 2u;
+    pHead->m_dwBlockFlags = (pHead->m_dwBlockFlags & ~BF_OPEN_HEAD) | 2u;
     pBlk->m_bClosed = 1;
     HideLines(*this, static_cast<long long>(nLine) + 1, nEnd);
     RedrawLines(nLine, TZ_TO_END, bUpdate);
@@ -173,7 +184,7 @@ int CTextZone::CreateClosedAltBlock(int nLine, int nCount, int bUpdate) {
                             [nLine](const auto& p) { return p->m_nFirstLine > nLine; });
     m_altBlocks.insert(pos, std::move(pNew));
 
-    pHead->m_dwBlockFlags = (pHead->m_dwBlockFlags & ~1u) | 2u;
+    pHead->m_dwBlockFlags = (pHead->m_dwBlockFlags & ~BF_OPEN_HEAD) | 2u;
     HideLines(*this, static_cast<long long>(nLine) + 1, nEnd);
     RedrawLines(nLine, TZ_TO_END, bUpdate);
     return 1;

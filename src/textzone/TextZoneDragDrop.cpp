@@ -11,8 +11,8 @@
 #include "textzone/TextZone.h"
 
 bool CTextZone::IsOleDragAllowed(UINT, POINT* pt) {
-    return m_bDragDrop && TestSelection() && pt && PtInSelection(pt) && m_nSelectionMode != 2 &&
-           GetKeyState(VK_MENU) >= 0;
+    return m_bDragDrop && TestSelection() && pt && PtInSelection(pt) &&
+           m_nSelectionMode != TZ_SEL_BOX && GetKeyState(VK_MENU) >= 0;
 }
 
 bool CTextZone::IsOleDropAllowed(UINT, POINT*) {
@@ -39,11 +39,8 @@ void CTextZone::HandleOleMouseMove(UINT nFlags, POINT* pt) {
 }
 
 int CTextZone::HandleOleDrag(UINT, POINT* pt) {
-    LONG size = GetSelectedTextLength(0) + 10;
-    std::vector<char> buffer(static_cast<size_t>(size), 0);
-    GetSelectedText(buffer.data(), size, 0);
     COleDataSource source;
-    source.CacheGlobalData(CF_TEXT, std::string(buffer.data()));
+    source.CacheGlobalData(CF_TEXT, GetSelectedTextString(0));
     m_bOleDragSource = 1;
     DWORD effect = source.DoDragDrop(
         m_bReadOnly ? DROPEFFECT_COPY : DROPEFFECT_COPY | DROPEFFECT_MOVE, m_pWnd);
@@ -55,7 +52,7 @@ int CTextZone::HandleOleDrag(UINT, POINT* pt) {
     m_bOleDragSource = 0;
     if (effect != DROPEFFECT_NONE) {
         if (droppedElsewhere && (effect & DROPEFFECT_MOVE) && !m_bReadOnly) {
-            StartRegister(11);
+            StartRegister(TZ_EDIT_DRAG);
             DeleteSelection(1);
             EndRegister();
             SetModify(1);
@@ -101,7 +98,7 @@ bool CTextZone::DoOlePasteItem(const char* pszText, POINT* pt) {
         int line = GetLineUnderPoint(pt);
         int index = GetCharIndexFromPoint(GetLine(line), pt);
         CancelSelection(1);
-        StartRegister(11);
+        StartRegister(TZ_EDIT_DRAG);
         SetSelection(line, line, index, index, 0, 0);
         InsertText(pszText, 1, 1, 1);
         EndRegister();

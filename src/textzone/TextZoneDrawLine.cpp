@@ -79,9 +79,8 @@ void CTextZone::DrawTextLine(CDC* pDC, int nLine) {
 
     // Where the selection starts and stops on this line: two boundaries
     // (-1 for none) and whether the line begins selected.
-    const bool bBox = m_nSelectionMode == 2;
-    const bool bInSelection =
-        TestSelection() && nLine >= m_nSelStartLine && nLine <= m_nSelEndLine;
+    const bool bBox = m_nSelectionMode == TZ_SEL_BOX;
+    const bool bInSelection = TestSelection() && nLine >= m_nSelStartLine && nLine <= m_nSelEndLine;
     int b1 = -1;
     int b2 = -1;
     bool bStartSelected = false;

@@ -14,6 +14,7 @@ namespace {
 using textbytes::IsBlank;
 using textbytes::kLineEnd;
 using textbytes::PadText;
+using textbytes::TextLength;
 
 // CR, LF and CR LF are one line end each; LF CR is two.
 int CountLineEnds(const char* p) {
@@ -33,8 +34,8 @@ int CountLineEnds(const char* p) {
 }  // namespace
 
 int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHorizontal) {
-    const bool box = m_nSelectionMode == 2;
-    const bool stream = m_nSelectionMode == 1;
+    const bool box = m_nSelectionMode == TZ_SEL_BOX;
+    const bool stream = m_nSelectionMode == TZ_SEL_STREAM;
     const bool paragraphs = (m_dwStyle & ZS_PARAGRAPH) != 0;
 
     int hadSelection = TestSelection();
@@ -71,10 +72,16 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
         m_nSelEndLine = m_nSelStartLine + CountLineEnds(pszText) -
                         (lastByte == '\r' || lastByte == '\n' ? 1 : 0);
         m_nSelStartChar = m_nSelEndChar = column;
-        RegisterUnit(7);
+        // Behind an unended last line the text goes on new lines and that
+        // line gets its end: the copy for undo takes it in too.
+        const int startLine = m_nSelStartLine;
+        CStringEx* pAbove = startLine > 0 && !GetLine(startLine) ? GetLine(startLine - 1) : nullptr;
+        if (pAbove && !pAbove->IsEnded()) --m_nSelStartLine;
+        RegisterUnit(TZ_UNIT_LINES_CARET);
+        m_nSelStartLine = startLine;
         m_nSelStartChar = m_nSelEndChar = startChar;
         m_nSelEndLine = endLine;
-    } else if (stream && paragraphs) {
+    } else if (UndoByOffsets()) {
         GetSelection(&m_lSelRootOffset, nullptr, nullptr, nullptr, 1);
     } else {
         m_nSelRootLine = m_nSelStartLine;
@@ -125,7 +132,9 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
             int tailLength = pTail->GetLength();
             int caretChar = m_nSelStartChar;
             // A free caret may stand beyond the text: blanks fill the gap, in
-            // front of the line end.
+            // front of the line end, and undo takes them out with the text.
+            if (m_nSelRootLine == L && !UndoByOffsets())
+                m_nSelRootChar = std::min(m_nSelRootChar, TextLength(*pLine));
             PadText(*pLine, caretChar);
             *pTail += pLine->subString(caretChar);
             pLine->keepLeft(caretChar);
@@ -212,7 +221,9 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
                     if (pPrev && pPrev->GetLength() != prevLength)
                         first = std::min(first, done - 1);
                 }
-                L = done + 1;
+                // A run that cannot wrap (width 0) stops where it began, which
+                // may be the line above: the next piece still goes below L.
+                L = std::max(done, L) + 1;
                 firstPass = false;
             }
             if (*p) result = 0;
@@ -237,8 +248,10 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
             if (box) m_nSelEndChar = ComputeBlockUnit(m_nSelEndLine, m_nSelEndChar);
         }
     }
-    if (!box) {
-        RegisterUnit(5);
+    if (stream) {
+        RegisterUnit(TZ_UNIT_INSERTED);
+    } else if (!box) {
+        // Line mode inserted nothing.
     } else if (m_pCurrentOperation) {
         // The unit registered before the change learns where the text ended.
         CUndoOperation& op = *m_pCurrentOperation;
@@ -260,16 +273,29 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
 void CTextZone::DeleteSelection(int bUpdate) {
     m_nGoalX = -1;
     if (!TestSelection()) return;
-    const bool box = m_nSelectionMode == 2;
+    const bool box = m_nSelectionMode == TZ_SEL_BOX;
     if (box && m_nSelStartChar == m_nSelEndChar) return;
-    RegisterUnit(box ? 6 : 1);
+    // A start behind a line's end pads the line up to it: recorded as typed
+    // blanks, so that undo takes them out again.
+    CStringEx* pStart = m_nSelectionMode == TZ_SEL_STREAM ? GetLine(m_nSelStartLine) : nullptr;
+    if (pStart && m_nSelStartChar > TextLength(*pStart) && !UndoByOffsets()) {
+        const int endLine = m_nSelEndLine, endChar = m_nSelEndChar;
+        m_nSelRootLine = m_nSelEndLine = m_nSelStartLine;
+        m_nSelRootChar = TextLength(*pStart);
+        m_nSelEndChar = m_nSelStartChar;
+        PadText(*pStart, m_nSelStartChar);
+        RegisterUnit(TZ_UNIT_TYPED);
+        m_nSelEndLine = endLine;
+        m_nSelEndChar = endChar;
+    }
+    // Line mode removes nothing, so there is nothing to record either.
+    if (m_nSelectionMode != TZ_SEL_LINES) RegisterUnit(box ? TZ_UNIT_LINES : TZ_UNIT_DELETED_TEXT);
     HideCaret();
 
     int first = 0;
     int last = 0;
-    if (m_nSelectionMode == 1) {
+    if (m_nSelectionMode == TZ_SEL_STREAM) {
         const bool paragraphs = (m_dwStyle & ZS_PARAGRAPH) != 0;
-        LONG selLength = GetSelectedTextLength(0);
         int startLine = m_nSelStartLine;
         int startChar = m_nSelStartChar;
         int endLine = m_nSelEndLine;
@@ -347,7 +373,9 @@ void CTextZone::DeleteSelection(int bUpdate) {
 
         // The paragraph run keeps the start in step with any rewrapping.
         SetSelection(m_nSelStartLine, m_nSelStartLine, m_nSelStartChar, m_nSelStartChar, 0, 0);
-        if (m_lMaxLength > 0) m_nCurrentLength -= selLength;
+        // A recount, not a subtraction: the length counts a line end behind
+        // an unended last line, which a deletion can make or take away.
+        RebuildCurrentLength();
     } else if (box) {
         first = m_nSelStartLine;
         last = m_nSelEndLine;

@@ -102,12 +102,10 @@ private:
 
 int CTextZone::SameAsSelected(const char* pszText, int bMatchCase) {
     if (!pszText) return 0;
-    const LONG lLength = GetSelectedTextLength(0);
-    if (static_cast<LONG>(std::strlen(pszText)) != lLength) return 0;
-    std::vector<char> buffer(static_cast<size_t>(lLength) + 10);
-    GetSelectedText(buffer.data(), lLength + 10, 0);
-    if (bMatchCase) return std::strcmp(buffer.data(), pszText) == 0 ? 1 : 0;
-    return _stricmp(buffer.data(), pszText) == 0 ? 1 : 0;
+    if (static_cast<LONG>(std::strlen(pszText)) != GetSelectedTextLength(0)) return 0;
+    const std::string selected = GetSelectedTextString(0);
+    if (bMatchCase) return std::strcmp(selected.c_str(), pszText) == 0 ? 1 : 0;
+    return _stricmp(selected.c_str(), pszText) == 0 ? 1 : 0;
 }
 
 int CTextZone::FindTextFromCurrentPos(const char* pszText, int bForward, int bMatchCase) {
@@ -121,7 +119,7 @@ int CTextZone::FindTextFromCurrentPos(const char* pszText, int bForward, int bMa
 
     // The selection becomes an empty stream selection at the given place.
     auto collapseTo = [&](int nLine, int nChar) {
-        m_nSelectionMode = 1;
+        m_nSelectionMode = TZ_SEL_STREAM;
         SetSelection(nLine, nLine, nChar, nChar, 0, 0);
         RedrawLines(oldStartLine, oldEndLine, 1);
         DrawCaret(1, 1);
@@ -208,7 +206,7 @@ int CTextZone::FindTextFromCurrentPos(const char* pszText, int bForward, int bMa
             nEndLine = L + 1;
             nEndChar = 0;
         }
-        m_nSelectionMode = 1;
+        m_nSelectionMode = TZ_SEL_STREAM;
         SetSelection(L, nEndLine, nFound, nEndChar, 0, 0);
         RedrawLines(std::min(L, oldStartLine), std::max(nEndLine, oldEndLine), 1);
         DrawCaret(1, 1);
@@ -227,15 +225,15 @@ int CTextZone::FindTextFromCurrentPos(const char* pszText, int bForward, int bMa
 
 void CTextZone::MakeUpperOrLower(int bLower) {
     if (TestSelection()) {
-        const LONG lLength = GetSelectedTextLength(0);
-        std::vector<char> buffer(static_cast<size_t>(lLength) + 10);
-        GetSelectedText(buffer.data(), lLength + 10, 0);
+        std::string text = GetSelectedTextString(0);
+        std::vector<char> buffer(text.begin(), text.end());
+        buffer.push_back(0);
         if (bLower)
             CharLowerA(buffer.data());
         else
             CharUpperA(buffer.data());
         HideCaret();
-        StartRegister(1);
+        StartRegister(TZ_EDIT_TYPING);
         InsertText(buffer.data(), 1, 1, 1);
         EndRegister();
         DrawCaret(1, 1);
@@ -261,9 +259,9 @@ void CTextZone::MakeUpperOrLower(int bLower) {
             SetSelection(nLine, nLine, nChar + 1, nChar + 1, 0, 0);
         } else {
             // Replaced as a one-byte stream selection: the caret ends up behind it.
-            m_nSelectionMode = 1;
+            m_nSelectionMode = TZ_SEL_STREAM;
             SetSelection(nLine, nLine, nChar, nChar + 1, 0, 0);
-            StartRegister(1);
+            StartRegister(TZ_EDIT_TYPING);
             InsertText(text, 0, 1, 1);
             EndRegister();
             RedrawLines(nLine, nLine, 1);

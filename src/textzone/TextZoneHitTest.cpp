@@ -6,8 +6,11 @@
 
 int CTextZone::GetCharIndexFromPoint(CStringEx* pLine, POINT* pt) {
     if (!pLine || !pt) return 0;
-    int d = pt->x - m_rcText.left + GetHScrollOffset();
-    if (d <= 0) return 0;
+    const long long dWide = static_cast<long long>(pt->x) - m_rcText.left + GetHScrollOffset();
+    if (dWide <= 0) return 0;
+    // No line reaches this far (65536 bytes of the widest font); beyond it
+    // every point is behind the text.
+    int d = static_cast<int>(std::min<long long>(dWide, 1 << 28));
     CDC* pDC = GetStandardDC();
     // A free caret may stand anywhere: measure against a line padded far out.
     CStringEx padded;
@@ -16,7 +19,14 @@ int CTextZone::GetCharIndexFromPoint(CStringEx* pLine, POINT* pt) {
         padded = *pLine;
         // The terminator would be measured in the middle of the padding.
         if (padded.IsEnded()) padded.discardRight(1);
-        padded.EnsureMinimumLength(TZ_MAX_LINE_LENGTH);
+        // Padded as far as the point needs (a byte past it), not always to
+        // the limit: measuring 65500 bytes on every hit test is slow.
+        const int textWidth = GetTextWidth(pDC, padded.c_str(), padded.GetLength());
+        const int space = std::max(1, GetTextWidth(pDC, " ", 1) - GetTextWidth(pDC, "", 0));
+        const long long reach =
+            padded.GetLength() + std::max(0LL, static_cast<long long>(d) - textWidth) / space + 2;
+        padded.EnsureMinimumLength(
+            static_cast<int>(std::min<long long>(reach, TZ_MAX_LINE_LENGTH)));
         line = &padded;
     }
     const char* text = line->c_str();
@@ -54,8 +64,8 @@ int CTextZone::GetCharIndexFromPoint(CStringEx* pLine, POINT* pt) {
 }
 
 int CTextZone::GetLineUnderPoint(POINT* pt) {
-    int line = GetLineFromPoint(pt);
     // Below the text the line is the place behind it, and no further.
+    int line = std::min(GetLineFromPoint(pt), GetLineCount());
     while (line > 0 && !GetLine(line - 1))
         --line;
     return line;

@@ -1,6 +1,7 @@
 // The editing keys: Backspace and Delete, Enter, and Tab with the indenting
 // and outdenting of blocks of lines.
 #include <algorithm>
+#include <climits>
 #include <string>
 
 #include "host/MessageBeep.h"
@@ -20,12 +21,15 @@ void AddLength(CTextZone& zone, int nCount) {
     if (zone.m_lMaxLength > 0) zone.m_nCurrentLength += nCount;
 }
 
+// The limits hold for the user's edits only: a replay of the history puts
+// back what was there, and must never silently leave a byte out.
 bool LengthReached(const CTextZone& zone) {
-    return zone.m_lMaxLength > 0 && zone.m_nCurrentLength >= zone.m_lMaxLength;
+    return !zone.m_bUndoing && zone.m_lMaxLength > 0 && zone.m_nCurrentLength >= zone.m_lMaxLength;
 }
 
 bool WouldPassLength(const CTextZone& zone, int nMore) {
-    return zone.m_lMaxLength > 0 && zone.m_nCurrentLength + nMore > zone.m_lMaxLength;
+    return !zone.m_bUndoing && zone.m_lMaxLength > 0 &&
+           zone.m_nCurrentLength + nMore > zone.m_lMaxLength;
 }
 
 void UpdateWnd(CTextZone& zone) {
@@ -63,7 +67,7 @@ void CTextZone::KeyBackDelete(int bBackspace) {
 
     if (TestSelection()) {
         if (!IsBoxCaret()) {
-            StartRegister(4);
+            StartRegister(TZ_EDIT_DELETE_SELECTION);
             DeleteSelection(1);
             EndRegister();
             return;
@@ -78,7 +82,7 @@ void CTextZone::KeyBackDelete(int bBackspace) {
         else
             ++m_nSelEndChar;
         const int column = m_nSelStartChar;
-        StartRegister(bBackspace ? 3 : 2);
+        StartRegister(bBackspace ? TZ_EDIT_BACKSPACE : TZ_EDIT_DELETE);
         DeleteSelection(1);
         EndRegister();
         m_nSelStartLine = startLine;
@@ -125,7 +129,7 @@ void CTextZone::KeyBackDelete(int bBackspace) {
     }
 
     const int linesBefore = GetLineCount();
-    StartRegister(bBackspace ? 3 : 2);
+    StartRegister(bBackspace ? TZ_EDIT_BACKSPACE : TZ_EDIT_DELETE);
     RegisterUnit(bBackspace ? 2 : 3);
     int first = line;
     int last = line;
@@ -208,7 +212,7 @@ void CTextZone::KeyReturn() {
         return;
     }
     SetModify(1);
-    StartRegister(1);
+    StartRegister(TZ_EDIT_TYPING);
     DeleteSelection(0);
     KeySetTypingRoot();
     HideCaret();
@@ -229,7 +233,7 @@ void CTextZone::KeyReturn() {
     CStringEx* pNext = GetLine(line + 1);
     if (!pLine) {
         VESKMessageBeep(0);
-    } else if (pNext && (pNext->m_dwBlockFlags & 4)) {
+    } else if (pNext && (pNext->m_dwBlockFlags & BF_HIDDEN)) {
         // The head of a closed block: its hidden lines cannot be split off.
         VESKMessageBeep(0);
     } else {
@@ -283,7 +287,7 @@ void CTextZone::KeyReturn() {
             }
             ComputeParagraph(m_nSelStartLine, nullptr);
             RedrawLines(first, TZ_TO_END, 1);
-            RegisterUnit(4);
+            RegisterUnit(TZ_UNIT_TYPED);
         }
     }
     EndRegister();
@@ -316,7 +320,7 @@ void CTextZone::KeyTab(int bShift) {
         if (WouldPassLength(*this, lines)) {
             OnTextTooLong();
         } else {
-            StartRegister(1);
+            StartRegister(TZ_EDIT_TYPING);
             HideCaret();
             std::string text;
             for (int i = 0; i < lines; ++i)
@@ -331,7 +335,7 @@ void CTextZone::KeyTab(int bShift) {
         }
     } else if (TestSelection() && m_nSelStartLine < m_nSelEndLine && (m_dwStyle & ZS_AUTOINDENT)) {
         // Whole lines are shifted; columns need every byte equally wide.
-        if (m_nSelectionMode != 2 && T != 0 && !IsFontProportionnal()) {
+        if (m_nSelectionMode != TZ_SEL_BOX && T != 0 && !IsFontProportionnal()) {
             m_nSelStartChar = 0;
             if (m_nSelEndChar != 0) {
                 ++m_nSelEndLine;
@@ -353,8 +357,8 @@ void CTextZone::KeyTab(int bShift) {
                         text += piece;
                     m_nSelEndLine = m_nSelRootLine = startLine;
                     m_nSelEndChar = m_nSelRootChar = 0;
-                    m_nSelectionMode = 2;
-                    StartRegister(9);
+                    m_nSelectionMode = TZ_SEL_BOX;
+                    StartRegister(TZ_EDIT_INDENT);
                     InsertText(text.c_str(), 0, 1, 1);
                     EndRegister();
                     m_nSelectionMode = mode;
@@ -380,8 +384,8 @@ void CTextZone::KeyTab(int bShift) {
                     m_nSelEndChar = count;
                     m_nSelRootLine = startLine;
                     m_nSelRootChar = 0;
-                    m_nSelectionMode = 2;
-                    StartRegister(10);
+                    m_nSelectionMode = TZ_SEL_BOX;
+                    StartRegister(TZ_EDIT_UNINDENT);
                     DeleteSelection(0);
                     EndRegister();
                     m_nSelectionMode = mode;
@@ -393,7 +397,7 @@ void CTextZone::KeyTab(int bShift) {
         }
         RebuildCurrentLength();
     } else {
-        StartRegister(1);
+        StartRegister(TZ_EDIT_TYPING);
         DeleteSelection(0);
         KeySetTypingRoot();
         HideCaret();
@@ -410,8 +414,13 @@ void CTextZone::KeyTab(int bShift) {
         if (pLine) {
             const int line = m_nSelStartLine;
             int ch = m_nSelStartChar;
+            const int before = pLine->GetLength();
             PadText(*pLine, ch);
-            const int limit = GetLineLimit();
+            AddLength(*this, pLine->GetLength() - before);
+            // Undo takes the padding out together with the tab.
+            if (!UndoByOffsets())
+                m_nSelRootChar = std::min(m_nSelRootChar, std::max(0, before - pLine->IsEnded()));
+            const int limit = m_bUndoing ? INT_MAX : GetLineLimit();
             if (GetTabConvert()) {
                 do {
                     if (pLine->GetLength() >= limit) break;
@@ -424,7 +433,7 @@ void CTextZone::KeyTab(int bShift) {
             }
             m_nSelStartChar = m_nSelEndChar = ch;
             KeyRewrapTyped(line, created, &first, &last);
-            RegisterUnit(4);
+            RegisterUnit(TZ_UNIT_TYPED);
         }
         EndRegister();
     }

@@ -17,7 +17,7 @@ namespace {
 
 bool IsHidden(CTextZone& zone, int nLine) {
     CStringEx* pLine = nLine >= 0 ? zone.GetLine(nLine) : nullptr;
-    return pLine && (pLine->m_dwBlockFlags & 4);
+    return pLine && (pLine->m_dwBlockFlags & BF_HIDDEN);
 }
 
 void PutCaret(CTextZone& zone, int nLine, int nChar) {
@@ -156,7 +156,7 @@ void CTextZone::KeyMoveHorizontal(int bRight, int bWord, int bShift) {
     const int oldLine = GetSelMobileLine();
     int line = oldLine;
     int ch = GetSelMobileChar();
-    if (m_nSelectionMode == 2) {
+    if (m_nSelectionMode == TZ_SEL_BOX) {
         // A box changes its width only; Ctrl makes no word steps in columns.
         ch = bRight ? std::min(ch + 1, TZ_MAX_LINE_LENGTH) : std::max(ch - 1, 0);
     } else if (bWord) {
@@ -167,7 +167,7 @@ void CTextZone::KeyMoveHorizontal(int bRight, int bWord, int bShift) {
     DefineSelectionFromRoot(line, ch);
     int first = std::min(oldLine, line);
     int last = std::max(oldLine, line);
-    if (m_nSelectionMode == 2) {
+    if (m_nSelectionMode == TZ_SEL_BOX) {
         first = std::min({first, oldFirst, m_nSelStartLine});
         last = std::max({last, oldLast, m_nSelEndLine});
     }
@@ -217,7 +217,7 @@ void CTextZone::KeyMoveVertical(int bDown, int bShift) {
     int oldLine, ch;
     KeyStartMove(bShift, 1, &oldLine, &ch);
     // A box keeps its column under Shift; a caret follows the goal x.
-    const bool keepColumn = bShift && m_nSelectionMode == 2;
+    const bool keepColumn = bShift && m_nSelectionMode == TZ_SEL_BOX;
 
     CDC* pDC = GetStandardDC();
     KeyGoalX(pDC, oldLine, ch, keepColumn, 0);
@@ -248,7 +248,7 @@ void CTextZone::KeyMovePage(int bDown, int bShift) {
     HideCaret();
     int oldLine, ch;
     KeyStartMove(bShift, 1, &oldLine, &ch);
-    const bool keepColumn = bShift && m_nSelectionMode == 2;
+    const bool keepColumn = bShift && m_nSelectionMode == TZ_SEL_BOX;
 
     // Stored lines, not visible ones: a page may land inside a closed block.
     const int lineHeight = m_nLineHeight > 0 ? m_nLineHeight : 1;
@@ -284,7 +284,7 @@ void CTextZone::KeyHomeEnd(int bEnd, int bCtrl, int bShift) {
     const int oldLast = m_nSelEndLine;
     int oldLine, ch;
     KeyStartMove(bShift, 0, &oldLine, &ch);
-    const bool spaced = bShift && m_nSelectionMode == 2;
+    const bool spaced = bShift && m_nSelectionMode == TZ_SEL_BOX;
     int line = oldLine;
 
     if (bEnd && bCtrl) {
@@ -322,7 +322,7 @@ void CTextZone::KeyHomeEnd(int bEnd, int bCtrl, int bShift) {
         DefineSelectionFromRoot(line, ch);
         int first = std::min(oldLine, line);
         int last = std::max(oldLine, line);
-        if (m_nSelectionMode == 2) {
+        if (m_nSelectionMode == TZ_SEL_BOX) {
             first = std::min({first, oldFirst, m_nSelStartLine});
             last = std::max({last, oldLast, m_nSelEndLine});
         }

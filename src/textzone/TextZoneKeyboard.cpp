@@ -20,7 +20,7 @@ bool IsDown(int nVirtKey) {
 }  // namespace
 
 int CTextZone::IsBoxCaret() {
-    return m_nSelectionMode == 2 && m_nSelStartChar == m_nSelEndChar &&
+    return m_nSelectionMode == TZ_SEL_BOX && m_nSelStartChar == m_nSelEndChar &&
            m_nSelStartLine != m_nSelEndLine;
 }
 
@@ -77,7 +77,7 @@ void CTextZone::HandleKeyDown(UINT nChar, UINT, UINT) {
             break;
         case VK_ESCAPE:
             CancelSelection(1);
-            SetSelectionMode(1);
+            SetSelectionMode(TZ_SEL_STREAM);
             break;
         case 'U':
             if (ctrl && !m_bReadOnly) MakeUpperOrLower(shift ? 0 : 1);
@@ -100,12 +100,17 @@ void CTextZone::HandleKeyDown(UINT nChar, UINT, UINT) {
         default:
             break;
     }
+    // The edits keep the running length by steps; a recount settles the
+    // line end that the length counts behind an unended last line.
+    if (nChar == VK_BACK || nChar == VK_DELETE || nChar == VK_TAB || nChar == VK_RETURN ||
+        nChar == VK_MULTIPLY)
+        RebuildCurrentLength();
 }
 
 // Ctrl+Num *: numbers the lines of a tall caret from 1, all numbers as wide
 // as the last one's digits.
 void CTextZone::KeyNumberLines() {
-    if (m_bReadOnly || m_nSelectionMode != 2 || m_nSelStartChar != m_nSelEndChar) return;
+    if (m_bReadOnly || m_nSelectionMode != TZ_SEL_BOX || m_nSelStartChar != m_nSelEndChar) return;
     const int n = m_nSelEndLine - m_nSelStartLine;
     if (n <= 0 || n >= 999) return;
     const int digits = n < 9 ? 1 : (n < 99 ? 2 : 3);
@@ -115,7 +120,7 @@ void CTextZone::KeyNumberLines() {
         return;
     }
     SetModify(1);
-    StartRegister(1);
+    StartRegister(TZ_EDIT_TYPING);
     HideCaret();
     std::string text;
     for (int i = 1; i <= n + 1; ++i) {

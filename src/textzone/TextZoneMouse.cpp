@@ -73,7 +73,8 @@ void CTextZone::HandleLButtonDown(UINT nFlags, POINT* pt) {
     const int oldFirst = m_nSelStartLine;
     const int oldLast = m_nSelEndLine;
     if (hadSelection) {
-        if (!m_bReadOnly && m_bDragDrop && m_nSelectionMode != 2 && !alt && PtInSelection(pt)) {
+        if (!m_bReadOnly && m_bDragDrop && m_nSelectionMode != TZ_SEL_BOX && !alt &&
+            PtInSelection(pt)) {
             // Perhaps the start of a text drag; the release tells.
             m_nDragState = 1;
             return;
@@ -95,18 +96,18 @@ void CTextZone::HandleLButtonDown(UINT nFlags, POINT* pt) {
 
     // The mark of a block head sits at the right of the margin.
     int margin = GetMarginWidth();
-    if (index == 0 && pLine && (pLine->m_dwBlockFlags & 3) && margin != 0 && !alt &&
-        !KeyDown(VK_SHIFT) && !KeyDown(VK_CONTROL)) {
+    if (index == 0 && pLine && (pLine->m_dwBlockFlags & (BF_OPEN_HEAD | BF_CLOSED_HEAD)) &&
+        margin != 0 && !alt && !KeyDown(VK_SHIFT) && !KeyDown(VK_CONTROL)) {
         int v = pt->x - m_rcText.left + GetHScrollOffset();
         if (v < margin && v >= margin - (m_nLineHeight * 3) / 4 - 1) {
-            if ((pLine->m_dwBlockFlags & 3) == 1)
+            if ((pLine->m_dwBlockFlags & (BF_OPEN_HEAD | BF_CLOSED_HEAD)) == BF_OPEN_HEAD)
                 CloseBlock(line, 1);
             else
                 OpenBlock(line, 1);
         }
     }
 
-    if (!GetNoBlockFlag() && !IsFontProportionnal() && alt) SetSelectionMode(2);
+    if (!GetNoBlockFlag() && !IsFontProportionnal() && alt) SetSelectionMode(TZ_SEL_BOX);
 
     if (!(nFlags & MK_SHIFT)) {
         SetSelection(line, line, index, index, 0, 0);
@@ -114,7 +115,7 @@ void CTextZone::HandleLButtonDown(UINT nFlags, POINT* pt) {
     }
 
     // Shift extends the selection from its root.
-    const bool box = m_nSelectionMode == 2;
+    const bool box = m_nSelectionMode == TZ_SEL_BOX;
     if (box) index = GetBoxIndexFromPoint(line, pt);
     if (!hadSelection) {
         if (box) {
@@ -146,7 +147,7 @@ void CTextZone::HandleMouseMove(UINT nFlags, POINT* pt) {
         if (!m_bMouseSelecting) return;
 
         AutoScroll(nFlags, pt);
-        const bool box = m_nSelectionMode == 2;
+        const bool box = m_nSelectionMode == TZ_SEL_BOX;
         if (box && !TestSelection()) {
             // A box grows in columns: the caret takes the column of the press.
             int column = GetBoxIndexFromPoint(m_nSelStartLine, &g_ptLastPress);
@@ -217,16 +218,14 @@ void CTextZone::DropSelectedText(int nLine, int nChar, bool bCopy) {
             nChar += m_nSelStartChar - m_nSelEndChar;
         nLine -= m_nSelEndLine - m_nSelStartLine;
     }
-    StartRegister(11);
-    LONG size = GetSelectedTextLength(0) + 10;
-    std::vector<char> text(static_cast<size_t>(size), 0);
-    GetSelectedText(text.data(), size, 0);
+    StartRegister(TZ_EDIT_DRAG);
+    const std::string text = GetSelectedTextString(0);
     const int oldFirst = m_nSelStartLine;
     const int oldLast = m_nSelEndLine;
     if (!bCopy) DeleteSelection(1);
     SetSelection(nLine, nLine, nChar, nChar, 0, 0);
     if (bCopy) RedrawLines(oldFirst, oldLast, 1);
-    InsertText(text.data(), 1, 1, 1);
+    InsertText(text.c_str(), 1, 1, 1);
     EndRegister();
     SetModify(1);
     UpdateVScrollBar();
@@ -275,7 +274,7 @@ void CTextZone::HandleLButtonDblClk(UINT, POINT* pt) {
     }
     const int end = pLine->GetLength() - pLine->IsEnded();
     int index = std::min(GetCharIndexFromPoint(pLine, pt), end);
-    SetSelectionMode(1);
+    SetSelectionMode(TZ_SEL_STREAM);
 
     while (index > 0 && textbytes::IsWordChar((*pLine)[index - 1]))
         --index;

@@ -32,6 +32,10 @@ int CTextZone::ComputeParagraph(int nLine, int* pbChanged) {
     const bool byWord = (m_dwStyle & ZS_WORDBREAK) != 0;
     CDC* pDC = GetStandardDC();
     auto width = [&](const CStringEx* p, int n) { return GetTextWidth(pDC, p->c_str(), n); };
+    // The first bytes of a line, at most nMax of its visible ones.
+    auto prefix = [](CStringEx* p, long long nMax) {
+        return static_cast<int>(std::min<long long>(p->GetVisibleLength(), nMax));
+    };
     SelEnd ends[2] = {{m_nSelStartLine, m_nSelStartChar}, {m_nSelEndLine, m_nSelEndChar}};
     bool changed = false;
 
@@ -41,8 +45,10 @@ int CTextZone::ComputeParagraph(int nLine, int* pbChanged) {
     // always keeps at least one byte, or a width below one byte would push
     // the text down line after line.
     auto cut = [&](CStringEx* pLine, CStringEx* pTarget) {
-        int w = width(pLine, pLine->GetVisibleLength());
-        if (w <= 2 * W) {
+        // Every byte is at least a pixel wide: 2W + 1 bytes are enough to
+        // tell a line far too wide, and W + 1 to find where it is cut.
+        int w = width(pLine, prefix(pLine, 2LL * W + 1));
+        if (w <= 2LL * W) {
             while (w > W && pLine->GetLength() - pLine->IsEnded() > 1) {
                 pLine->TransferEnd(*pTarget, byWord);
                 w = width(pLine, pLine->GetVisibleLength());
@@ -53,7 +59,7 @@ int CTextZone::ComputeParagraph(int nLine, int* pbChanged) {
         const char* p = pLine->c_str();
         // The last byte count whose width does not pass W: widths grow with
         // the count, so a binary search finds it.
-        int low = 0, high = n;
+        int low = 0, high = static_cast<int>(std::min<long long>(n, W + 1LL));
         while (low < high) {
             int mid = (low + high + 1) / 2;
             if (width(pLine, mid) <= W)
@@ -83,9 +89,11 @@ int CTextZone::ComputeParagraph(int nLine, int* pbChanged) {
         CStringEx* pLine = GetLine(L);
         if (!pLine) break;
         last = L;
-        // A single byte wider than the paragraph stays where it is.
-        const bool fits = width(pLine, pLine->GetVisibleLength()) <= W ||
-                          pLine->GetLength() - pLine->IsEnded() <= 1;
+        // A single byte wider than the paragraph stays where it is. Every
+        // byte is at least a pixel wide, so W + 1 bytes tell whether a long
+        // line fits: the rest of it need not be measured.
+        const bool fits =
+            width(pLine, prefix(pLine, W + 1LL)) <= W || pLine->GetLength() - pLine->IsEnded() <= 1;
 
         if (pLine->IsEnded() && fits) break;
 
@@ -166,7 +174,8 @@ int CTextZone::ComputeParagraph(int nLine, int* pbChanged) {
             // A word goes up with the delimiter behind it; a hyphen there is
             // seen and must fit too, where blanks never count.
             int measured = piece;
-            if (piece >= 2 && measured < pNext->GetLength() && (*pNext)[measured] == '-') ++measured;
+            if (piece >= 2 && measured < pNext->GetLength() && (*pNext)[measured] == '-')
+                ++measured;
             CStringEx joined(*pLine);
             joined += VESK::String(pNext->c_str(), measured);
             const int before = pNext->GetLength();

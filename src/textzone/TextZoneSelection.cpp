@@ -1,6 +1,7 @@
 // The selection record: setting and reading it in its three forms (raw line
 // and character, text offset, box), and reading out the selected text.
 #include <algorithm>
+#include <vector>
 
 #include "textzone/TextZone.h"
 
@@ -42,7 +43,7 @@ void CTextZone::SetSelection(LONG lStart, LONG lEnd, int nStartChar, int nEndCha
 
     int startLine, endLine, startChar, endChar;
     if (wMode == 1) {
-        m_nSelectionMode = 1;
+        m_nSelectionMode = TZ_SEL_STREAM;
         bool startFound = false;
         bool endFound = false;
         startLine = endLine = startChar = endChar = 0;
@@ -93,8 +94,17 @@ void CTextZone::SetSelection(LONG lStart, LONG lEnd, int nStartChar, int nEndCha
             endLine = after;
             if (wMode != 2) endChar = 0;
         }
-        if (wMode == 2) m_nSelectionMode = 2;
+        if (wMode == 2) {
+            // Where box mode is refused (wrap, a proportional font) the same
+            // places make a stream selection of byte indexes instead.
+            const bool boxAllowed = !(m_dwStyle & ZS_PARAGRAPH) && !IsFontProportionnal();
+            m_nSelectionMode = boxAllowed ? 2 : 1;
+        }
     }
+    // Far-out characters from a host stop at the longest possible line, so
+    // that no later sum of places or pixels overflows.
+    startChar = std::clamp(startChar, 0, TZ_MAX_PLACE);
+    endChar = std::clamp(endChar, 0, TZ_MAX_PLACE);
 
     // The end is raised to the start, never swapped with it.
     if (endLine < startLine) endLine = startLine;
@@ -139,7 +149,7 @@ short CTextZone::GetSelection(LONG* plStart, LONG* plEnd, int* pnStartChar, int*
     } else if (wMode == 2) {
         if (plStart) *plStart = m_nSelStartLine;
         if (plEnd) *plEnd = m_nSelEndLine;
-        bool box = m_nSelectionMode == 2;
+        bool box = m_nSelectionMode == TZ_SEL_BOX;
         if (pnStartChar) *pnStartChar = box ? m_nSelStartChar : 0;
         if (pnEndChar) *pnEndChar = box ? m_nSelEndChar : TZ_TO_END;
     } else {
@@ -155,8 +165,8 @@ void CTextZone::GetSelectedText(char* pBuffer, LONG lSize, WORD wFlags) {
     if (!pBuffer || lSize < 1) return;
     LONG count = 0;
     if (TestSelection()) {
-        bool stream = m_nSelectionMode == 1;
-        bool box = m_nSelectionMode == 2;
+        bool stream = m_nSelectionMode == TZ_SEL_STREAM;
+        bool box = m_nSelectionMode == TZ_SEL_BOX;
         // Whole lines stop short of the end line.
         int lastTaken = stream || box ? m_nSelEndLine : m_nSelEndLine - 1;
         bool paragraphs = (m_dwStyle & ZS_PARAGRAPH) != 0;
@@ -187,8 +197,8 @@ void CTextZone::GetSelectedText(char* pBuffer, LONG lSize, WORD wFlags) {
 
 LONG CTextZone::GetSelectedTextLength(WORD wFlags) {
     if (!TestSelection()) return 0;
-    bool stream = m_nSelectionMode == 1;
-    bool box = m_nSelectionMode == 2;
+    bool stream = m_nSelectionMode == TZ_SEL_STREAM;
+    bool box = m_nSelectionMode == TZ_SEL_BOX;
     int lastTaken = stream || box ? m_nSelEndLine : m_nSelEndLine - 1;
     bool paragraphs = (m_dwStyle & ZS_PARAGRAPH) != 0;
     int endBytes = (wFlags & 3) == TF_CRLF ? 2 : 1;
@@ -212,4 +222,15 @@ LONG CTextZone::GetSelectedTextLength(WORD wFlags) {
             total += endBytes;
     }
     return total;
+}
+
+std::string CTextZone::GetSelectedTextString(WORD wFlags) {
+    if (!TestSelection()) return {};
+    // The length leaves out the line end that line mode writes behind its
+    // last line (at most 2 bytes), and a line end needs one byte more of
+    // room than it takes: 3 beyond the length hold all of it and the 0.
+    const LONG size = GetSelectedTextLength(wFlags) + 3;
+    std::vector<char> buffer(static_cast<size_t>(size), 0);
+    GetSelectedText(buffer.data(), size, wFlags);
+    return buffer.data();
 }

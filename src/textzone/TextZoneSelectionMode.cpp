@@ -8,12 +8,13 @@ void CTextZone::SetSelectionMode(short wMode) {
     bool hadSelection = TestSelection() != 0;
     WORD old = m_nSelectionMode;
     // Columns need wrapped lines off and every byte equally wide.
-    if (wMode == 2 && ((m_dwStyle & ZS_PARAGRAPH) || IsFontProportionnal())) wMode = 1;
+    if (wMode == TZ_SEL_BOX && ((m_dwStyle & ZS_PARAGRAPH) || IsFontProportionnal()))
+        wMode = TZ_SEL_STREAM;
     if (wMode < 0 || wMode > 2) return;
     m_nSelectionMode = static_cast<WORD>(wMode);
     if (!hadSelection) return;
-    bool toBox = old == 1 && wMode == 2;
-    bool toStream = old == 2 && wMode == 1;
+    bool toBox = old == 1 && wMode == TZ_SEL_BOX;
+    bool toStream = old == 2 && wMode == TZ_SEL_STREAM;
     if (!toBox && !toStream) return;
     bool rootAtStart = m_nSelRootChar == m_nSelStartChar;
     int a = toBox ? ComputeBlockUnit(m_nSelStartLine, m_nSelStartChar)
@@ -31,7 +32,7 @@ short CTextZone::GetSelectionMode() {
 }
 
 void CTextZone::StartSelection() {
-    if (m_nSelectionMode == 2) {
+    if (m_nSelectionMode == TZ_SEL_BOX) {
         m_nSelStartChar = ComputeBlockUnit(m_nSelStartLine, m_nSelStartChar);
         m_nSelEndChar = m_nSelStartChar;
     }
@@ -44,7 +45,7 @@ void CTextZone::CancelSelection(int bRedraw) {
         int oldFirst = m_nSelStartLine, oldLast = m_nSelEndLine;
         int line = GetSelMobileLine();
         int ch = GetSelMobileChar();
-        if (m_nSelectionMode == 2) ch = ComputeCharIndex(line, ch);
+        if (m_nSelectionMode == TZ_SEL_BOX) ch = ComputeCharIndex(line, ch);
         m_nSelStartLine = m_nSelEndLine = line;
         m_nSelStartChar = m_nSelEndChar = ch;
         if (bRedraw) {
@@ -57,7 +58,7 @@ void CTextZone::CancelSelection(int bRedraw) {
 }
 
 void CTextZone::DefineSelectionFromRoot(int nLine, int nChar) {
-    if (m_nSelectionMode == 1) {
+    if (m_nSelectionMode == TZ_SEL_STREAM) {
         if (m_nSelRootLine == m_nSelStartLine && m_nSelRootChar == m_nSelStartChar) {
             m_nSelEndLine = nLine, m_nSelEndChar = nChar;
         } else {
@@ -68,7 +69,7 @@ void CTextZone::DefineSelectionFromRoot(int nLine, int nChar) {
             std::swap(m_nSelStartLine, m_nSelEndLine);
             std::swap(m_nSelStartChar, m_nSelEndChar);
         }
-    } else if (m_nSelectionMode == 2) {
+    } else if (m_nSelectionMode == TZ_SEL_BOX) {
         // A box grows in all four directions: lines and columns go apart.
         if (m_nSelRootLine != m_nSelStartLine)
             m_nSelStartLine = nLine;
@@ -93,14 +94,14 @@ int CTextZone::GetSelRootChar() {
 }
 
 int CTextZone::GetSelMobileLine() {
-    if (m_nSelectionMode == 2)
+    if (m_nSelectionMode == TZ_SEL_BOX)
         return m_nSelRootLine == m_nSelStartLine ? m_nSelEndLine : m_nSelStartLine;
     bool rootAtStart = m_nSelRootLine == m_nSelStartLine && m_nSelRootChar == m_nSelStartChar;
     return rootAtStart ? m_nSelEndLine : m_nSelStartLine;
 }
 
 int CTextZone::GetSelMobileChar() {
-    if (m_nSelectionMode == 2)
+    if (m_nSelectionMode == TZ_SEL_BOX)
         return m_nSelRootChar == m_nSelStartChar ? m_nSelEndChar : m_nSelStartChar;
     bool rootAtStart = m_nSelRootLine == m_nSelStartLine && m_nSelRootChar == m_nSelStartChar;
     return rootAtStart ? m_nSelEndChar : m_nSelStartChar;
@@ -110,7 +111,7 @@ int CTextZone::PtInSelection(POINT* pt) {
     if (!pt || !TestSelection()) return 0;
     int line = GetLineFromPoint(pt);
     int index = GetCharIndexFromPoint(GetLine(line), pt);
-    if (m_nSelectionMode == 2) {
+    if (m_nSelectionMode == TZ_SEL_BOX) {
         // The box's last line is not inside and the index is compared to the
         // columns unconverted: the drag code was tuned to this test.
         return line >= m_nSelStartLine && line < m_nSelEndLine && index >= m_nSelStartChar &&

@@ -1,5 +1,6 @@
 // The zone's settings: plain setters and getters, and the few that have to
 // bring the text or the screen in line with a new value.
+#include <algorithm>
 #include "platform/DC.h"
 #include "platform/Messages.h"
 #include "platform/Platform.h"
@@ -49,7 +50,7 @@ void CTextZone::SetFont(HFONT hFont) {
         DeleteDC(hDC);
     }
     // Box columns are only meaningful in a fixed pitch.
-    if (m_bProportional && m_nSelectionMode == 2) SetSelectionMode(1);
+    if (m_bProportional && m_nSelectionMode == TZ_SEL_BOX) SetSelectionMode(TZ_SEL_STREAM);
 }
 
 HFONT CTextZone::GetFont() {
@@ -61,7 +62,9 @@ int CTextZone::IsFontProportionnal() {
 }
 
 void CTextZone::SetTabWidth(int nTabWidth) {
-    m_nTabWidth = nTabWidth;
+    // A step wider than any window (or than 256 characters) only makes the
+    // measuring overflow.
+    m_nTabWidth = std::clamp(nTabWidth, -256, 4096);
     if (m_pWnd) {
         // Recorded positions no longer mean the same under another tab step.
         FreeAllOperations();
@@ -87,7 +90,7 @@ void CTextZone::SetTabConvert(int bTabConvert) {
     }
     if (m_pWnd) {
         FreeAllOperations();
-        SetSelectionMode(1);
+        SetSelectionMode(TZ_SEL_STREAM);
         RebuildAllParagraphs();
         RedrawTextZone();
     }
@@ -125,7 +128,41 @@ void CTextZone::SetStyle(DWORD dwStyle) {
         dwStyle &= ~ZS_FREECARET;
     else if (dwStyle & ZS_FREECARET)
         dwStyle |= ZS_SELTOEDGE;
+    const bool wrapChanged = ((m_dwStyle ^ dwStyle) & ZS_PARAGRAPH) != 0;
     m_dwStyle = dwStyle;
+    if (!wrapChanged || !m_pWnd) return;
+
+    // Undo units hold text offsets under wrap and lines and characters
+    // without it: a history across the switch would be read in the wrong form.
+    FreeAllOperations();
+    LONG lStart = 0, lEnd = 0;
+    GetSelection(&lStart, &lEnd, nullptr, nullptr, 1);
+    if (dwStyle & ZS_PARAGRAPH) {
+        RebuildAllParagraphs();
+    } else {
+        // The soft breaks go: each paragraph becomes one line again, as far
+        // as the line limit lets it.
+        for (int n = 0;; ++n) {
+            CStringEx* pLine = GetLine(n);
+            if (!pLine) break;
+            while (!pLine->IsEnded()) {
+                CStringEx* pNext = GetLine(n + 1);
+                if (!pNext) break;
+                if (pLine->GetLength() + pNext->GetLength() - pNext->IsEnded() >
+                    TZ_MAX_LINE_LENGTH) {
+                    pLine->EnsureEnded();
+                    break;
+                }
+                *pLine += *pNext;
+                RemoveLines(n + 1, 1);
+                pLine = GetLine(n);
+            }
+        }
+    }
+    // Columns have no meaning between wrapped lines.
+    SetSelection(lStart, lEnd, 0, 0, 1, 0);
+    RebuildCurrentLength();
+    RedrawTextZone();
 }
 
 DWORD CTextZone::GetStyle() {

@@ -3,6 +3,7 @@
 // block capacity follows the square root of the line count, so texts of
 // millions of lines stay cheap to edit in the middle.
 #include <algorithm>
+#include <climits>
 #include <cstring>
 #include <unordered_set>
 #include <vector>
@@ -193,7 +194,9 @@ CStringEx* CTextZone::InsertLine(int nLine) {
 
     ++m_nLineCount;
     for (auto& blk : m_editBlocks) {
-        if (blk->m_nFirstLine < nLine && nLine < blk->m_nFirstLine + blk->m_nLineCount)
+        if (blk->m_nFirstLine < nLine &&
+            nLine < static_cast<long long>(blk->m_nFirstLine) + blk->m_nLineCount &&
+            blk->m_nLineCount < INT_MAX)
             ++blk->m_nLineCount;
         if (blk->m_nFirstLine >= nLine) ++blk->m_nFirstLine;
     }
@@ -265,6 +268,10 @@ void CTextZone::RemoveLines(int nFirst, int nCount) {
             gone.push_back(std::move(*it));
             it = m_editBlocks.erase(it);
             continue;
+        } else if (blk.m_nFirstLine + blk.m_nLineCount > nEnd) {
+            // The run lies inside the block: the block loses just those lines,
+            // and keeps the ones behind them (hidden ones among them).
+            blk.m_nLineCount -= nCount;
         } else if (blk.m_nFirstLine + blk.m_nLineCount > nFirst) {
             blk.m_nLineCount = nFirst - blk.m_nFirstLine;
         }
@@ -366,7 +373,7 @@ void CTextZone::ShowOrphanedLines(int nFrom, int nTo) {
         CStringEx* pLine = GetLine(n);
         if (!pLine) break;
         if (!hiddenBy(m_editBlocks, n, true) && !hiddenBy(m_altBlocks, n, false))
-            pLine->m_dwBlockFlags &= ~4u;
+            pLine->m_dwBlockFlags &= ~BF_HIDDEN;
     }
 }
 

@@ -7,6 +7,7 @@
 #include "platform/DC.h"
 #include "platform/Messages.h"
 #include "platform/Wnd.h"
+#include "textzone/TextBytes.h"
 #include "textzone/TextZone.h"
 
 namespace {
@@ -14,9 +15,7 @@ namespace {
 constexpr char kCR = 13;
 constexpr char kLF = 10;
 
-bool IsBlank(char c) {
-    return c == ' ' || c == '\t';
-}
+using textbytes::IsBlank;
 
 // The line end the caller asked for, by the two low bits of the flags.
 struct LineEnd {
@@ -92,7 +91,7 @@ int CTextZone::SetText(const char* pszText) {
     if (!m_pWnd || !m_pWnd->GetSafeHwnd()) return 0;
     FreeAllLines();
     FreeAllOperations();
-    m_nSelectionMode = 1;
+    m_nSelectionMode = TZ_SEL_STREAM;
     SetSelection(0, 0, 0, 0, 0, 0);
     // No undo operation is open, so loading records nothing.
     int nResult = InsertText(pszText, 0, 1, 1);
@@ -163,10 +162,10 @@ void CTextZone::GetPartOfText(char* pBuffer, LONG lSize, LONG lFirstLine, LONG l
                               int nFirstChar, int nLastChar, WORD wMode, WORD wFlags) {
     if (!pBuffer || lSize < 1) return;
     const LineEnd eol(wFlags);
-    const bool bBox = wMode == 2;
-    const bool bStream = !bBox && wMode != 0;
+    const bool bBox = wMode == TZ_SEL_BOX;
+    const bool bStream = !bBox && wMode != TZ_SEL_LINES;
     // Line mode takes whole lines up to the one before lLastLine.
-    const long long lLastTaken = wMode == 0 ? lLastLine - 1LL : lLastLine;
+    const long long lLastTaken = wMode == TZ_SEL_LINES ? lLastLine - 1LL : lLastLine;
     const int nLineCount = GetLineCount();
 
     LONG count = 0;

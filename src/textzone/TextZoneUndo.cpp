@@ -2,30 +2,24 @@
 // primitives file units into it saying how to reverse each of their steps,
 // and closing the operation puts it on the history. Replaying is in
 // TextZoneUndoReplay.cpp.
+#include <algorithm>
 #include <vector>
 
+#include "textzone/TextBytes.h"
 #include "textzone/TextZone.h"
 
 namespace {
 
 using InfoList = std::vector<std::unique_ptr<char[]>>;
 
-bool IsBlank(char c) {
-    return c == ' ' || c == '\t';
-}
-
 bool OnlyBlanks(const CStringEx& line) {
-    const char* p = line.c_str();
-    int n = line.GetLength() - line.IsEnded();
-    for (int i = 0; i < n; ++i)
-        if (!IsBlank(p[i])) return false;
-    return true;
+    return textbytes::OnlyBlanks(line, textbytes::TextLength(line));
 }
 
 // With wrapped paragraphs line positions shift on every rewrap, so units
 // hold text offsets instead.
 bool ParagraphForm(const CTextZone& zone) {
-    return (zone.m_dwStyle & ZS_PARAGRAPH) && zone.m_nSelectionMode == 1;
+    return zone.UndoByOffsets();
 }
 
 std::unique_ptr<char[]> InfoOf(CTextZone& zone, int nLine) {
@@ -51,14 +45,30 @@ void PlaceFromSelection(const CTextZone& zone, CUndoUnit& unit) {
 // Kind 1: the selection about to be deleted.
 bool RecordSelectedText(CTextZone& zone, CUndoUnit& unit) {
     if (!zone.TestSelection()) return false;
-    if (zone.m_nSelectionMode == 2 && zone.m_nSelStartLine != zone.m_nSelEndLine &&
+    if (zone.m_nSelectionMode == TZ_SEL_BOX && zone.m_nSelStartLine != zone.m_nSelEndLine &&
         zone.m_nSelStartChar == zone.m_nSelEndChar)
         return false;  // a box caret deletes nothing
 
-    LONG size = zone.GetSelectedTextLength(0) + 10;
-    std::vector<char> buffer(static_cast<size_t>(size), 0);
-    zone.GetSelectedText(buffer.data(), size, 0);
-    unit.m_hText = buffer.data();
+    // In a stream the text is what the deletion takes: a place behind a
+    // line's end (free caret, or the line behind the text) holds no blanks,
+    // and the end at a raw length takes the line end as the deletion does.
+    const int savedEndLine = zone.m_nSelEndLine, savedEndChar = zone.m_nSelEndChar;
+    if (zone.m_nSelectionMode == TZ_SEL_STREAM) {
+        CStringEx* pEnd = zone.GetLine(savedEndLine);
+        CStringEx* pAbove = savedEndLine > 0 ? zone.GetLine(savedEndLine - 1) : nullptr;
+        if (!pEnd && pAbove && !pAbove->IsEnded())
+            // Behind an unended last line: the text ends on that line.
+            zone.m_nSelEndLine = savedEndLine - 1,
+            zone.m_nSelEndChar = textbytes::TextLength(*pAbove);
+        else if (pEnd && !(zone.m_dwStyle & ZS_FREECARET) && savedEndChar == pEnd->GetLength() &&
+                 pEnd->IsEnded())
+            zone.m_nSelEndLine = savedEndLine + 1, zone.m_nSelEndChar = 0;
+        else
+            zone.m_nSelEndChar = std::min(savedEndChar, pEnd ? textbytes::TextLength(*pEnd) : 0);
+    }
+    unit.m_hText = zone.GetSelectedTextString(0);
+    zone.m_nSelEndLine = savedEndLine;
+    zone.m_nSelEndChar = savedEndChar;
 
     if (ParagraphForm(zone)) {
         LONG start = 0, end = 0;
@@ -154,7 +164,8 @@ bool RecordCharAt(CTextZone& zone, CUndoUnit& unit) {
 }
 
 // Kinds 6 and 7: a copy of the lines a box edit touches, each line's raw
-// text ended by 13 and followed by 10.
+// text (with its 13 if it is ended) followed by 10. A line that is not there
+// yet, which the edit will add behind the text, is a 0 byte and 10.
 bool RecordLines(CTextZone& zone, CUndoUnit& unit) {
     // Sized like the same lines read out whole in stream form with CR LF,
     // which is what the copy holds.
@@ -163,8 +174,8 @@ bool RecordLines(CTextZone& zone, CUndoUnit& unit) {
     WORD mode = zone.m_nSelectionMode;
     zone.m_nSelEndLine = endLine + 1;
     zone.m_nSelStartChar = zone.m_nSelEndChar = 0;
-    zone.m_nSelectionMode = 1;
-    LONG size = zone.GetSelectedTextLength(TF_CRLF) + 10;
+    zone.m_nSelectionMode = TZ_SEL_STREAM;
+    LONG size = zone.GetSelectedTextLength(TF_CRLF) + 3;
     zone.m_nSelEndLine = endLine;
     zone.m_nSelStartChar = startChar;
     zone.m_nSelEndChar = endChar;
@@ -174,8 +185,10 @@ bool RecordLines(CTextZone& zone, CUndoUnit& unit) {
     text.reserve(static_cast<size_t>(size));
     for (int n = startLine; n <= endLine; ++n) {
         CStringEx* pLine = zone.GetLine(n);
-        if (pLine) text.append(pLine->c_str(), static_cast<size_t>(pLine->GetLength()));
-        if (!pLine || !pLine->IsEnded()) text += '\r';
+        if (pLine)
+            text.append(pLine->c_str(), static_cast<size_t>(pLine->GetLength()));
+        else
+            text += '\0';
         text += '\n';
     }
     PlaceFromSelection(zone, unit);
@@ -202,17 +215,17 @@ void CTextZone::RegisterUnit(WORD wKind) {
 
     bool keep = true;
     switch (wKind) {
-        case 1:
+        case TZ_UNIT_DELETED_TEXT:
             keep = RecordSelectedText(*this, unit);
             break;
-        case 2:
+        case TZ_UNIT_CHAR_BEFORE:
             keep = RecordCharBefore(*this, unit);
             break;
-        case 3:
+        case TZ_UNIT_CHAR_AT:
             keep = RecordCharAt(*this, unit);
             break;
-        case 4:
-        case 5:
+        case TZ_UNIT_TYPED:
+        case TZ_UNIT_INSERTED:
             // Registered after the insertion: the range from the root to the
             // selection end is what the edit put in.
             if (ParagraphForm(*this)) {
@@ -225,14 +238,14 @@ void CTextZone::RegisterUnit(WORD wKind) {
                 unit.m_nFirstChar = m_nSelRootChar;
                 unit.m_nLastLine = m_nSelEndLine;
                 unit.m_nLastChar = m_nSelEndChar;
-                if (wKind == 5 && m_nSelectionMode == 2) {
+                if (wKind == TZ_UNIT_INSERTED && m_nSelectionMode == TZ_SEL_BOX) {
                     unit.m_nFirstChar = ComputeBlockUnit(m_nSelRootLine, m_nSelRootChar);
                     unit.m_nLastChar = ComputeBlockUnit(m_nSelEndLine, m_nSelEndChar);
                 }
             }
             break;
-        case 6:
-        case 7:
+        case TZ_UNIT_LINES:
+        case TZ_UNIT_LINES_CARET:
             keep = RecordLines(*this, unit);
             break;
         default:
@@ -245,8 +258,10 @@ void CTextZone::RegisterUnit(WORD wKind) {
         op.m_group.push_back(std::move(pUnit));
     else if (!op.m_pFirst)
         op.m_pFirst = std::move(pUnit);
+    else if (!op.m_pSecond)
+        op.m_pSecond = std::move(pUnit);
     else
-        op.m_pSecond = std::move(pUnit);  // a plain edit makes at most two
+        op.m_group.push_back(std::move(pUnit));  // rare: padding made room first
 }
 
 void CTextZone::EndRegister() {

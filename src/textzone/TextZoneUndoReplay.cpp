@@ -8,18 +8,17 @@
 
 #include "platform/Messages.h"
 #include "platform/Wnd.h"
+#include "textzone/TextBytes.h"
 #include "textzone/TextZone.h"
 
 namespace {
 
 using OperationList = std::list<std::unique_ptr<CUndoOperation>>;
 
-bool IsBlank(char c) {
-    return c == ' ' || c == '\t';
-}
+using textbytes::IsBlank;
 
 bool ParagraphForm(const CTextZone& zone) {
-    return (zone.m_dwStyle & ZS_PARAGRAPH) && zone.m_nSelectionMode == 1;
+    return zone.UndoByOffsets();
 }
 
 void CaretToFirstPlace(CTextZone& zone, const CUndoUnit& unit) {
@@ -40,19 +39,32 @@ void SelectPlace(CTextZone& zone, const CUndoUnit& unit) {
     zone.m_nSelStartChar = unit.m_nFirstChar;
     zone.m_nSelEndLine = unit.m_nLastLine;
     zone.m_nSelEndChar = unit.m_nLastChar;
+    // An empty unended last line may have come and gone in between: no end
+    // stays past the place behind the text.
+    const int last = zone.GetLastLineIndex();
+    const int after = zone.GetLine(last) ? last + 1 : last;
+    if (zone.m_nSelEndLine > after) zone.m_nSelEndLine = after, zone.m_nSelEndChar = 0;
+    if (zone.m_nSelStartLine > after) zone.m_nSelStartLine = after, zone.m_nSelStartChar = 0;
 }
 
 // Each line from the unit's first to its last takes back its copy: the
 // bytes up to the next 10, the terminator included. The line object stays,
-// and with it its bookmarks and block flags. The copy ends every line with
-// 13, so an unended last line comes back ended.
+// and with it its bookmarks and block flags. Lines that were not there go
+// again (the edit added them behind the text), and lines that were there
+// come back if they are missing (a redo of such an edit).
 void RestoreLines(CTextZone& zone, const CUndoUnit& unit) {
     const std::string& text = unit.m_hText;
     size_t pos = 0;
     for (int n = unit.m_nFirstLine; n <= unit.m_nLastLine && pos < text.size(); ++n) {
-        CStringEx* pLine = zone.GetLine(n);
-        if (!pLine) break;
         size_t end = std::min(text.find('\n', pos), text.size());
+        CStringEx* pLine = zone.GetLine(n);
+        if (end - pos == 1 && text[pos] == '\0') {
+            if (pLine)
+                zone.RemoveLines(n, std::min(unit.m_nLastLine, zone.GetLastLineIndex()) - n + 1);
+            break;
+        }
+        if (!pLine) pLine = zone.InsertLine(n);
+        if (!pLine) break;
         pLine->assign(text.data() + pos, static_cast<int>(end - pos));
         pos = end + 1;
     }
@@ -97,7 +109,7 @@ void AfterBoxRestore(CTextZone& zone, const CUndoUnit& unit, int oldFirst, int o
 }
 
 bool IsBlockIndent(const CUndoOperation& op) {
-    return op.m_wType == 9 || op.m_wType == 10;
+    return op.m_wType == TZ_EDIT_INDENT || op.m_wType == TZ_EDIT_UNINDENT;
 }
 
 // Undo and Redo: the newest operation of one list is replayed, and what the
@@ -121,8 +133,8 @@ void Replay(CTextZone& zone, OperationList& from, OperationList& to) {
     pOperation.reset();
     zone.m_bUndoing = 0;
 
-    if (oldMode == 1 && zone.m_nSelectionMode != 1 && !zone.TestSelection())
-        zone.SetSelectionMode(1);
+    if (oldMode == TZ_SEL_STREAM && zone.m_nSelectionMode != TZ_SEL_STREAM && !zone.TestSelection())
+        zone.SetSelectionMode(TZ_SEL_STREAM);
 }
 
 }  // namespace
@@ -145,6 +157,9 @@ void CTextZone::PerformUndoing(CUndoOperation* pOperation) {
         for (auto it = op.m_group.rbegin(); it != op.m_group.rend() && *it; ++it)
             units.push_back(it->get());
     } else {
+        // Units past the second follow in the list, newest last.
+        for (auto it = op.m_group.rbegin(); it != op.m_group.rend() && *it; ++it)
+            units.push_back(it->get());
         if (op.m_pSecond) units.push_back(op.m_pSecond.get());
         if (op.m_pFirst) units.push_back(op.m_pFirst.get());
     }
@@ -158,10 +173,12 @@ void CTextZone::PerformUndoing(CUndoOperation* pOperation) {
             oldLast = m_nSelEndLine;
         }
         // A retyped key works on a caret, whatever the mode was.
-        m_nSelectionMode = unit.m_wType == 2 || unit.m_wType == 3 ? 1 : unit.m_wSelMode;
+        m_nSelectionMode = unit.m_wType == TZ_UNIT_CHAR_BEFORE || unit.m_wType == TZ_UNIT_CHAR_AT
+                               ? TZ_SEL_STREAM
+                               : unit.m_wSelMode;
 
         switch (unit.m_wType) {
-            case 1:
+            case TZ_UNIT_DELETED_TEXT:
                 CaretToFirstPlace(*this, unit);
                 if (!unit.m_hText.empty()) InsertText(unit.m_hText.c_str(), 0, 1, 1);
                 SelectPlace(*this, unit);
@@ -169,8 +186,8 @@ void CTextZone::PerformUndoing(CUndoOperation* pOperation) {
                 RedrawLines(std::min(oldFirst, m_nSelStartLine), TZ_TO_END, 0);
                 break;
 
-            case 2:
-            case 3:
+            case TZ_UNIT_CHAR_BEFORE:
+            case TZ_UNIT_CHAR_AT:
                 CaretToFirstPlace(*this, unit);
                 // The key handlers record the inverse themselves, and while
                 // undoing they add no automatic indentation.
@@ -186,38 +203,38 @@ void CTextZone::PerformUndoing(CUndoOperation* pOperation) {
                             0);
                 break;
 
-            case 4:
-            case 5:
-                if (unit.m_wType == 4) m_nSelectionMode = 1;
+            case TZ_UNIT_TYPED:
+            case TZ_UNIT_INSERTED:
+                if (unit.m_wType == TZ_UNIT_TYPED) m_nSelectionMode = TZ_SEL_STREAM;
                 SelectPlace(*this, unit);
                 DeleteSelection(1);
                 m_nSelectionMode = unit.m_wSelMode;
                 RedrawLines(std::min(oldFirst, m_nSelStartLine), TZ_TO_END, 0);
                 break;
 
-            case 6:
+            case TZ_UNIT_LINES:
                 SelectPlace(*this, unit);
-                RegisterUnit(7);
+                RegisterUnit(TZ_UNIT_LINES_CARET);
                 if (!unit.m_hText.empty()) RestoreLines(*this, unit);
                 SelectPlace(*this, unit);
                 if (IsBlockIndent(op)) {
                     // An indented block stays selected as whole lines.
-                    m_nSelectionMode = 1;
+                    m_nSelectionMode = TZ_SEL_STREAM;
                     ++m_nSelEndLine;
                     m_nSelStartChar = m_nSelEndChar = 0;
                 }
                 AfterBoxRestore(*this, unit, oldFirst, oldLast);
                 break;
 
-            case 7:
+            case TZ_UNIT_LINES_CARET:
                 SelectPlace(*this, unit);
-                RegisterUnit(6);
+                RegisterUnit(TZ_UNIT_LINES);
                 if (!unit.m_hText.empty()) RestoreLines(*this, unit);
                 m_nSelStartLine = m_nSelEndLine = unit.m_nFirstLine;
                 m_nSelStartChar = m_nSelEndChar =
                     ComputeCharIndex(unit.m_nFirstLine, unit.m_nFirstChar);
                 if (IsBlockIndent(op)) {
-                    m_nSelectionMode = 1;
+                    m_nSelectionMode = TZ_SEL_STREAM;
                     m_nSelEndLine = unit.m_nLastLine + 1;
                     m_nSelStartChar = m_nSelEndChar = 0;
                 }

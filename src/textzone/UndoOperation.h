@@ -15,5 +15,7 @@ public:
     WORD m_wType = 0;
     std::unique_ptr<CUndoUnit> m_pFirst;
     std::unique_ptr<CUndoUnit> m_pSecond;
-    std::vector<std::unique_ptr<CUndoUnit>> m_group;  // the units of a group, in order
+    // The units of a group, in order; in a plain operation the units past
+    // the second, if an edit ever makes more.
+    std::vector<std::unique_ptr<CUndoUnit>> m_group;
 };

@@ -11,6 +11,7 @@
 #include "apps/demo/DemoWindow.h"
 #include "platform/qt/QtPlatform.h"
 #include "textzone/TextZone.h"
+#include "zones/TextZoneReadOnly.h"
 
 namespace {
 
@@ -175,4 +176,32 @@ TEST_F(DemoTest, KeyCombinationsAndTheClipboardWorkThroughQt) {
     QTest::keyClick(widget, Qt::Key_7, Qt::KeypadModifier);
     Pump();
     EXPECT_EQ(Text(), "7alpha beta\r\n");
+}
+
+TEST_F(DemoTest, TheReportListsMatchesWhoseLinksOpenTheirLine) {
+    ASSERT_TRUE(m_window.OpenFile(Write("select a\r\nfrom t\r\n  select b\r\n")));
+    CTextZoneReadOnly& report = m_window.Report().Zone();
+    auto line = [&](int n) {
+        CStringEx* p = report.GetLine(n);
+        return p ? std::string(p->c_str()) : std::string("<none>");
+    };
+    EXPECT_EQ(line(0).rfind("in.sql: 2 lines with \"select\"", 0), 0u) << line(0);
+    EXPECT_EQ(line(1), "  line 1: select a\r");
+    EXPECT_EQ(line(2), "  line 3:   select b\r");
+
+    // A click on "line 3" puts the editor's caret on the word there.
+    QWidget* pReport = CQtPlatform::WidgetOf(&m_window.Report().View().Editor());
+    ASSERT_NE(pReport, nullptr);
+    const int x = report.m_rcText.left + report.m_nCharWidth * 4 + 2;
+    const int y = report.m_rcText.top + report.GetLineHeight(0) * 2 + 3;
+    QTest::mouseClick(pReport, Qt::LeftButton, Qt::NoModifier, QPoint(x, y));
+    Pump();
+    CTextZone& editor = m_window.EditorWidget().Zone();
+    EXPECT_EQ(editor.GetSelMobileLine(), 2);
+    EXPECT_EQ(editor.GetSelMobileChar(), 2);
+    // A click on plain report text opens nothing.
+    QTest::mouseClick(pReport, Qt::LeftButton, Qt::NoModifier,
+                      QPoint(report.m_rcText.left + report.m_nCharWidth * 12, y));
+    Pump();
+    EXPECT_EQ(editor.GetSelMobileLine(), 2);
 }

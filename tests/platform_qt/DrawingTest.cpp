@@ -227,3 +227,22 @@ TEST_F(DrawingTest, ScrollDCMovesPixelsAndReportsWhatItUncovered) {
     // A measuring context has nothing to move.
     EXPECT_FALSE(Display()->ScrollDC(0, 10, &scroll, &scroll, &exposed, &box));
 }
+
+TEST_F(DrawingTest, AnUnderlineRunsUnderItsOwnTextOnly) {
+    CFont font;
+    LOGFONTA lf = Font("Courier New", -20);
+    lf.lfUnderline = 1;
+    ASSERT_TRUE(font.CreateFontIndirect(&lf));
+    CDC* dc = WhiteDC();
+    dc->SelectObject(&font);
+    dc->SetTextColor(kRed);
+    dc->SetBkMode(TRANSPARENT);
+    CSize extent = dc->GetTextExtent("__", 2);
+    dc->TextOut(150, 40, "  ", 2);  // blanks: only the underline shows
+    m_wnd.ReleaseDC(dc);
+
+    const QImage& image = Image();
+    EXPECT_GT(CountPixels(image, QRect(150, 40, extent.cx, extent.cy), kRed), extent.cx / 2);
+    EXPECT_EQ(CountPixels(image, QRect(0, 30, 148, 40), kRed), 0);
+    EXPECT_EQ(CountPixels(image, QRect(152 + extent.cx, 30, 100, 40), kRed), 0);
+}

@@ -149,3 +149,20 @@ TEST_F(BoxEditTest, BoxEditsUndoAndRedoAsOneStepEach) {
     m_zone.Redo();
     EXPECT_EQ(Text(), "adef\r\na b\r\nxy\r\n");
 }
+
+TEST_F(BoxEditTest, ATabAcrossTheColumnStaysWholeAndBlanksGoInFrontOfIt) {
+    Load("a\tb\r\nabcdefgh\r\n");
+    // Column 3 lies inside the tab of line 0 (columns 1 to 3), nearer to
+    // its end than to its start.
+    TallCaret(0, 1, 3);
+    m_zone.InsertText("X\r\nY\r\n", 0, 1, 1);
+    EXPECT_EQ(Text(), "a  X\tb\r\nabcYdefgh\r\n");
+}
+
+TEST_F(BoxEditTest, TheCaretAfterABoxDeletionIsAByteIndex) {
+    Load("\tabcdef\r\n\tabcdef\r\n");
+    m_zone.SetSelection(0, 1, 5, 7, 2, 0);  // columns 5 and 6: "bc" behind the tab
+    m_zone.DeleteSelection(1);
+    EXPECT_EQ(Text(), "\tadef\r\n\tadef\r\n");
+    ExpectCaret(0, 2);
+}

@@ -314,3 +314,18 @@ TEST_F(CaretScrollTest, HiddenLinesTakeNoRoom) {
     Caret(22, 0);
     EXPECT_EQ(First(), 5);
 }
+
+TEST_F(CaretScrollTest, AnEditOfAShortLineKeepsTheRangeOfTheLongOne) {
+    ASSERT_TRUE(m_zone.SetText((std::string(100, 'x') + "\r\nshort").c_str()));
+    m_zone.SetFirstVisiblePosition(0, 0);
+    ASSERT_EQ(m_zone.m_nHScrollMax, 50);
+    m_zone.SetSelection(1, 1, 2, 2, 0, 0);
+    m_zone.HandleChar('y', 1, 0);  // updates the range from line 1 alone
+    EXPECT_EQ(m_zone.m_nHScrollMax, 50);
+}
+
+TEST_F(CaretScrollTest, ASelectionEndingAtALineStartScrollsToTheLineAbove) {
+    Load(100);
+    m_zone.SetSelection(0, 40, 0, 0, 0, 1);
+    EXPECT_EQ(First(), 22);  // line 39 at the bottom; line 40 holds nothing selected
+}

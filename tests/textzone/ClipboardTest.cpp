@@ -49,6 +49,7 @@ TEST_F(ClipboardTest, CutDeletesOnlyWhatTheClipboardTook) {
 
     m_platform.SetClipboardText("");
     EXPECT_EQ(m_zone.Cut(), 1);
+    EXPECT_TRUE(m_zone.GetModify());
     EXPECT_EQ(m_platform.GetClipboardText(), "pha\r\nbe");
     EXPECT_EQ(Text(), "alta\r\n");
     ExpectCaret(0, 2);
@@ -146,4 +147,13 @@ TEST_F(ClipboardTest, PasteBeyondTheMaximumLengthBeeps) {
     m_zone.Paste();
     EXPECT_EQ(Text(), "ab123cd\r\nabcd\r\n");
     EXPECT_EQ(m_platform.GetBeepCount(), 1);
+}
+
+TEST_F(ClipboardTest, ACopyOfManyLinesTakesEveryLineEndWhole) {
+    std::string text, expected;
+    for (int i = 0; i < 20; ++i) text += "line " + std::to_string(i) + "\r";
+    ASSERT_TRUE(m_zone.SetText(text.c_str()));
+    for (int i = 0; i < 20; ++i) expected += "line " + std::to_string(i) + "\r\n";
+    EXPECT_EQ(CopyOf(0, 20, 0, 0, 0), expected);  // line mode: the last line end too
+    EXPECT_EQ(CopyOf(0, 19, 0, 7, 0), expected.substr(0, expected.size() - 2));
 }

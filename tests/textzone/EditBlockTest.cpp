@@ -381,3 +381,14 @@ TEST_F(EditBlockTest, StatusStringForAnotherTextOrMalformed) {
     EXPECT_EQ(m_zone.CreateClosedAltBlock(11, 3, 0), 1);
     EXPECT_EQ(Status(), head + "00010001" + "000007" + "00000B000003");
 }
+
+TEST_F(EditBlockTest, OpeningAnAlternateBlockLeavesHeadsUnderAClosedBlockHidden) {
+    SetLines(12);
+    m_zone.SetEditBlock(1, 8);  // 1..8
+    m_zone.SetEditBlock(3, 3);  // 3..5, inside it
+    Close({3, 1});
+    EXPECT_EQ(m_zone.CreateClosedAltBlock(2, 5, 0), 1);  // 2..6 over the inner head
+    EXPECT_EQ(m_zone.OpenBlock(2, 0), 1);
+    // The alternate block's lines, the inner head among them, stay under block 1.
+    EXPECT_EQ(Flags(), "024644444000");
+}

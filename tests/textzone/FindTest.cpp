@@ -155,3 +155,9 @@ TEST_F(FindTest, CaseChangeReplacesInsideOneTypingFrame) {
     EXPECT_EQ(zone.m_calls, (std::vector<std::string>{"start 1", "insert B\rC selected", "end",
                                                       "start 1", "insert c", "end"}));
 }
+
+TEST_F(FindTest, AnOverlappingMatchAtTheEndOfTheLastLineIsFound) {
+    ASSERT_TRUE(m_zone.SetText("aaa"));
+    Caret(0, 0);
+    Run({{"aa", 1, 1, 1, 0, 0, 0, 2}, {"aa", 1, 1, 1, 0, 1, 0, 3}, {"aa", 1, 1, 0, 0, 3, 0, 3}});
+}

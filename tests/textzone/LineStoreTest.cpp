@@ -193,14 +193,23 @@ TEST(LineStoreTest, EditBlocksFollowInsertionAndRemoval) {
     EXPECT_EQ(later->m_nFirstLine, 12);
     EXPECT_EQ(alt->m_nFirstLine, 4);  // other lists are not kept in step
 
-    // Lines 5 and 6: the inner block goes, the outer is cut, the later moves up.
+    // A block that begins right behind the run to be removed.
+    auto nextIt = std::next(zone.m_editBlocks.begin(), 2);
+    auto next = std::make_unique<CEditBlk>(nullptr);
+    next->m_nFirstLine = 7;
+    next->m_nLineCount = 2;
+    CEditBlk* behind = zone.m_editBlocks.insert(nextIt, std::move(next))->get();
+
+    // Lines 5 and 6: the inner block goes, the outer loses the two lines and
+    // keeps the ones behind them, the later ones move up.
     zone.RemoveLines(5, 2);
-    ASSERT_EQ(zone.m_editBlocks.size(), 2u);
-    EXPECT_EQ(outer->m_nLineCount, 2);
+    ASSERT_EQ(zone.m_editBlocks.size(), 3u);
+    EXPECT_EQ(outer->m_nLineCount, 4);
+    EXPECT_EQ(behind->m_nFirstLine, 5);
     EXPECT_EQ(later->m_nFirstLine, 10);
     EXPECT_EQ(alt->m_pParent, nullptr);
     EXPECT_EQ(input->m_pParent, nullptr);
-    zone.RemoveLines(5, 1);  // a block ending where the removal starts stays whole
+    zone.RemoveLines(5, 3);  // a block that ends inside the run is cut where it starts
     EXPECT_EQ(outer->m_nLineCount, 2);
 
     zone.m_nCurrentLength = 42;

@@ -227,3 +227,23 @@ TEST_F(PaintTest, RedrawLinesInvalidatesTheirRowsAndAPaintDrawsOnlyThose) {
     EXPECT_EQ(Box(Peer().GetInvalidations().at(0).rcBox), "0,0,400,300");
     EXPECT_EQ(Peer().GetPaintCount(), paints + 1);
 }
+
+TEST_F(PaintTest, OnlyAnEndedLineShowsItsSelectedLineEnd) {
+    m_zone.SetStyle(ZS_PARAGRAPH | ZS_WORDBREAK);
+    m_zone.SetMaxWidth(80);
+    ASSERT_TRUE(m_zone.SetText("aaa bbb ccc\r\nx"));  // [aaa bbb ][ccc\r][x]
+    m_zone.SetSelection(0, -1, 0, 0, 1, 0);           // all of it
+    Paint();
+    EXPECT_EQ(Fills(0, kSelBack), Strings{});              // a wrapped line has no end
+    EXPECT_EQ(Fills(1, kSelBack), Strings{"24,16,32,32"});  // one cell for the line end
+}
+
+TEST_F(PaintTest, RedrawLinesPaintsAtOnceOnlyWhenAsked) {
+    ASSERT_TRUE(m_zone.SetText("ab\r\ncd\r\n"));
+    m_wnd.UpdateWindow();
+    const int before = Peer().GetPaintCount();
+    m_zone.RedrawLines(0, 1, 0);
+    EXPECT_EQ(Peer().GetPaintCount(), before);
+    m_zone.RedrawLines(0, 1, 1);
+    EXPECT_EQ(Peer().GetPaintCount(), before + 1);
+}

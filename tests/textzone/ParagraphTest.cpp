@@ -120,6 +120,36 @@ TEST_F(ParagraphTest, ChangingTheWidthRewrapsEverything) {
     EXPECT_EQ(Text(), "aaa bbb ccc ddd eee\r\nfff ggg hhh iii\r\n");
 }
 
+TEST_F(ParagraphTest, TextInsertedWhereTheWidthIsZeroKeepsEveryByte) {
+    Wrap(ZS_WORDBREAK, 48);
+    ASSERT_TRUE(m_zone.SetText("aaaa bb bb cccc\r\n"));
+    ASSERT_EQ(Lines(), "[aaaa ][bb bb ][cccc\r]");
+    m_zone.SetMaxWidth(0);  // the lines stay as they are wrapped
+    m_zone.SetSelection(1, 1, 3, 3, 0, 0);
+    m_zone.InsertText("X\rY", 0, 1, 1);
+    EXPECT_EQ(Text(), "aaaa bb X\r\nYbb cccc\r\n");
+}
+
+TEST_F(ParagraphTest, SwitchingWrapRewrapsOrJoinsAndForgetsTheHistory) {
+    ASSERT_TRUE(m_zone.SetText("aaa bbb ccc\r\nx\r\n"));
+    m_zone.SetMaxWidth(40);
+    m_zone.SetSelection(0, 0, 1, 1, 0, 0);
+    m_zone.InsertText("Q", 0, 1, 1);  // recorded as line and character
+    m_zone.StartRegister(6);
+    m_zone.InsertText("R", 0, 1, 1);
+    m_zone.EndRegister();
+    ASSERT_NE(m_zone.GetUndoType(), 0);
+    m_zone.SetSelection(0, 0, 1, 5, 2, 0);  // a box
+    m_zone.SetStyle(ZS_PARAGRAPH | ZS_WORDBREAK);
+    EXPECT_EQ(m_zone.GetSelectionMode(), 1);
+    EXPECT_EQ(m_zone.GetUndoType(), 0);
+    EXPECT_EQ(Lines(), "[aQRaa ][bbb ][ccc\r][x\r]");
+    m_zone.SetSelection(0, 1, 0, 3, 2, 0);  // the box form is a stream under wrap
+    EXPECT_EQ(m_zone.GetSelectionMode(), 1);
+    m_zone.SetStyle(0);
+    EXPECT_EQ(Lines(), "[aQRaa bbb ccc\r][x\r]");
+}
+
 // Random edits against a plain string: the wrap must never change the text,
 // every line must fit, the caret stays at the edit's end, and the last edits
 // undo and redo through the same texts.
@@ -177,4 +207,29 @@ TEST_F(ParagraphTest, RandomEditsKeepTextWidthsAndCaret) {
             m_zone.Redo();
         EXPECT_EQ(Text(TF_NO_FINAL_END), model);
     }
+}
+
+TEST_F(ParagraphTest, HyphensBreakWordsAndABytetooWideForTheWidthStaysAlone) {
+    Wrap(ZS_WORDBREAK, 64);
+    ASSERT_TRUE(m_zone.SetText("well-known fact\r\n"));
+    EXPECT_EQ(Lines(), "[well-][known ][fact\r]");
+    m_zone.SetMaxWidth(72);  // a word behind a hyphen goes up whole or not at all
+    EXPECT_EQ(Lines(), "[well-][known ][fact\r]");
+    m_zone.SetMaxWidth(64);
+    ASSERT_TRUE(m_zone.SetText("aaaa-bbbbbbbbbbbbbbbbbbbb\r\n"));  // far too wide: cut at once
+    EXPECT_EQ(Lines().substr(0, 7), "[aaaa-]");
+    ASSERT_TRUE(m_zone.SetText("well-known fact\r\n"));
+    // Narrower than one byte: one byte a line, and the wrap comes to an end.
+    m_zone.SetMaxWidth(4);
+    EXPECT_EQ(Lines(), "[w][e][l][l][-][k][n][o][w][n][ ][f][a][c][t\r]");
+    EXPECT_EQ(Text(), "well-known fact\r\n");
+}
+
+TEST_F(ParagraphTest, ACaretAtTheCutGoesToTheStartOfTheNextLine) {
+    Wrap(ZS_WORDBREAK, 80);
+    ASSERT_TRUE(m_zone.SetText("aaaa bbbb\r\n"));
+    m_zone.SetSelection(0, 0, 5, 5, 0, 0);  // before "bbbb"
+    m_zone.InsertText("cc ", 0, 1, 1);       // "aaaa cc bbbb": the cut falls at the caret
+    EXPECT_EQ(Lines(), "[aaaa cc ][bbbb\r]");
+    ExpectCaret(1, 0);
 }

@@ -417,3 +417,26 @@ TEST_F(UndoTest, RemovedBytesAreTypedAgainThroughTheKeyHandlers) {
     EXPECT_EQ(zone.m_keys, "Cb K13 ");
     zone.HideCaret();
 }
+
+TEST_F(UndoTest, AReplayEndsInStreamModeWhereItStartedThereWithNothingSelected) {
+    m_zone.SetText("abc\r\ndef\r\n");
+    m_zone.SetSelection(0, 1, 1, 1, 2, 0);  // a tall caret in box mode
+    Type("x");
+    EXPECT_EQ(Text(), "axbc\r\ndxef\r\n");
+    m_zone.SetSelectionMode(1);
+    Caret(0, 0);
+    m_zone.Undo();
+    EXPECT_EQ(Text(), "abc\r\ndef\r\n");
+    EXPECT_FALSE(m_zone.TestSelection());
+    EXPECT_EQ(m_zone.GetSelectionMode(), 1);
+}
+
+TEST_F(UndoTest, ALineEndBroughtBackByUndoGetsNoIndentation) {
+    m_zone.SetStyle(ZS_AUTOINDENT);
+    m_zone.SetText("    abc\r\n    def\r\n");
+    Caret(1, 0);
+    Press(VK_BACK);  // joins the lines at the blanks
+    EXPECT_EQ(Text(), "    abc    def\r\n");
+    m_zone.Undo();
+    EXPECT_EQ(Text(), "    abc\r\n    def\r\n");
+}

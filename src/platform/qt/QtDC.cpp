@@ -74,7 +74,7 @@ void CQtDC::DoText(int x, int y, const char* p, int n, int nWidth) {
         quint32 glyph = f.glyphs[byte];
         if (glyph != 0 || byte < 0x20) {
             glyphs.push_back(glyph);
-            positions.push_back(QPointF(pos, baseline));
+            positions.push_back(QPointF(pos - x, 0));
         } else {
             painter.drawText(QPoint(pos, baseline), QString(QChar(CWindows1252::ToUnicode(byte))));
         }
@@ -87,7 +87,9 @@ void CQtDC::DoText(int x, int y, const char* p, int n, int nWidth) {
     run.setPositions(positions);
     run.setUnderline(f.font.underline());
     run.setStrikeOut(f.font.strikeOut());
-    painter.drawGlyphRun(QPointF(0, 0), run);
+    // Positions are relative to the run's start: Qt draws an underline
+    // from the run's position for the run's width.
+    painter.drawGlyphRun(QPointF(x, baseline), run);
 }
 
 void CQtDC::DoRoundRect(const RECT& rc, int ew, int eh, const PenObject& pen,
