@@ -278,6 +278,10 @@ void CTextZone::DeleteSelection(int bUpdate) {
     // A start behind a line's end pads the line up to it: recorded as typed
     // blanks, so that undo takes them out again.
     CStringEx* pStart = m_nSelectionMode == TZ_SEL_STREAM ? GetLine(m_nSelStartLine) : nullptr;
+    // A history kept by text offsets has no place for such blanks, so there
+    // the deletion starts where the line's text ends.
+    if (pStart && m_nSelStartChar > TextLength(*pStart) && UndoByOffsets())
+        m_nSelStartChar = TextLength(*pStart);
     if (pStart && m_nSelStartChar > TextLength(*pStart) && !UndoByOffsets()) {
         const int endLine = m_nSelEndLine, endChar = m_nSelEndChar;
         m_nSelRootLine = m_nSelEndLine = m_nSelStartLine;

@@ -145,3 +145,14 @@ TEST_F(UndoRoundTripTest, FreeCaretPaddingCountsAgainstTheMaximum) {
     m_zone.RebuildCurrentLength();
     EXPECT_EQ(m_zone.m_nCurrentLength, kept);
 }
+
+TEST_F(UndoRoundTripTest, AWrappedDeletionFromBehindALineEndLeavesNoBlanks) {
+    m_zone.SetText("ab\r\ncd\r\n\r\n");
+    m_zone.SetStyle(ZS_PARAGRAPH);
+    const std::string before = Text();
+    // Raw places are not held to the lines, so the start lies behind "ab".
+    m_zone.SetSelection(0, 1, 3, 1, 0, 0);
+    Paste("xy\r\n");
+    EXPECT_EQ(CrText(), "abxy\rd\r\r");
+    ExpectRoundTrip(before);
+}
