@@ -57,8 +57,6 @@ TEST_F(ServicesTest, KeyStateClockBeepAndNoPlatformDefaults) {
 
     EXPECT_TRUE(MessageBeep(0));
     EXPECT_EQ(m_platform.GetBeepCount(), 1);
-    EXPECT_EQ(GetSysColor(COLOR_WINDOW), RGB(255, 255, 255));
-    EXPECT_EQ(GetSystemMetrics(SM_CXVSCROLL), 17);
 
     SetCursor(LoadCursorA(nullptr, IDC_IBEAM));
     EXPECT_EQ(m_platform.GetCurrentCursorId(), IDC_IBEAM);
@@ -131,7 +129,6 @@ TEST_F(ServicesTest, KeyboardHooksSeeReleasesAsNegative) {
     EXPECT_GE(g_lastHookLParam, 0);
     m_platform.InjectHookKey(VK_F2, true);
     EXPECT_LT(g_lastHookLParam, 0);
-    EXPECT_LT(static_cast<LONG>(g_lastHookLParam), 0);
     EXPECT_TRUE(UnhookWindowsHookEx(hook));
     EXPECT_EQ(m_platform.InjectHookKey(VK_F2, false), 0);
     EXPECT_EQ(g_hookCalls, 2);
