@@ -34,8 +34,8 @@ def run_once(demo, path):
 def main():
     demo, out = sys.argv[1], sys.argv[2]
     benchmarks = []
-    for spec in sys.argv[3:]:
-        path, lines = spec.rsplit(":", 1)
+    for arg in sys.argv[3:]:
+        path, lines = arg.rsplit(":", 1)
         runs = [run_once(demo, path) for _ in range(3)]
         for task, value in (("DemoOpen", min(r[0] for r in runs)),
                             ("DemoClose", min(r[1] for r in runs))):

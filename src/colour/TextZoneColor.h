@@ -10,8 +10,8 @@
 // states and delimiter search), TextZoneColorRuns.cpp (DefineColors),
 // TextZoneColorJcl.cpp, TextZoneColorMarkup*.cpp and TextZoneColorEmbedded.cpp
 // (markup and the script embedded in it), TextZoneColorDraw.cpp
-// (DrawTextLine), TextZoneColorKeys.cpp (HandleKeyDown),
-// TextZoneColorLater.cpp (completion, not in this zone yet).
+// (DrawTextLine), TextZoneColorKeys.cpp (HandleKeyDown); word completion
+// and the parameter tooltips are in completion/.
 #pragma once
 
 #include <cstdint>
@@ -212,6 +212,18 @@ protected:
     bool HasContinuationEnding(int nLine);
     // Whether the two bytes can take part in a comment delimiter.
     bool FormsCommentDelimiter(char cBefore, char cAt);
+
+    // --- Word completion (completion/TextZoneColorWordCompletion.cpp) ---
+    // Looks up the candidates of the word left of the caret and opens the
+    // cycle when there are any; false when the place is refused.
+    bool StartWordCompletion(int nMode);
+    // A candidate as it goes into the text: in the case of the prefix, and
+    // a blank behind.
+    std::string CandidateText(const char* pWord, int nMode);
+    // Replaces the prefix by text as one undo operation of its own.
+    void InsertCandidate(const std::string& text);
+    void CompleteInPlace(int nMode, bool bStarted, bool bShift);
+    void CompleteFromList(int nMode);
 
 public:
     // The members, in the order of the class.

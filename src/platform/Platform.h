@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/Types.h"
 
@@ -75,6 +76,18 @@ public:
     // Thread keyboard hooks: every key event goes through them first.
     virtual HHOOK SetKeyboardHook(HOOKPROC pfn) = 0;
     virtual BOOL Unhook(HHOOK hHook) = 0;
+
+    // A pick list: a bordered list with a vertical scroll bar, child of
+    // pParent at rc (client coordinates), in hFont, holding the items with
+    // the first selected. It has the keyboard until Return or a double click
+    // accepts (the index of the item is returned) or Escape, a system key, a
+    // click elsewhere or the loss of focus cancels (-1); other windows keep
+    // getting their events meanwhile. A backend without one cancels.
+    virtual int RunPickList(CWnd* pParent, const RECT& rc, HFONT hFont,
+                            const std::vector<std::string>& items) {
+        (void)pParent, (void)rc, (void)hFont, (void)items;
+        return -1;
+    }
 };
 
 // The installed platform, or null.

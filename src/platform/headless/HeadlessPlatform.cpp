@@ -348,3 +348,10 @@ int CHeadlessPlatform::InjectHookKey(int nVirtKey, bool bRelease) {
         proc(HC_ACTION, static_cast<WPARAM>(nVirtKey), flags);
     return static_cast<int>(procs.size());
 }
+
+int CHeadlessPlatform::RunPickList(CWnd* pParent, const RECT& rc, HFONT hFont,
+                                   const std::vector<std::string>& items) {
+    m_pickLists.push_back({pParent, rc, hFont, items});
+    const int nChosen = m_pickListHandler ? m_pickListHandler(m_pickLists.back()) : -1;
+    return nChosen >= 0 && nChosen < static_cast<int>(items.size()) ? nChosen : -1;
+}

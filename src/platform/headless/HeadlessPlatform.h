@@ -62,6 +62,19 @@ public:
     DWORD SimulateDrop(CWnd* pTarget, const std::string& text, DWORD dwKeyState, POINT ptClient);
     bool HasDropTarget(CWnd* pWnd) const { return m_dropTargets.count(pWnd) != 0; }
 
+    // Pick lists. Each request is recorded; the handler answers it with the
+    // index of the chosen item or -1 for a cancel, as the user would have.
+    // Without a handler a list is cancelled.
+    struct PickListRequest {
+        CWnd* pParent;
+        RECT rc;
+        HFONT hFont;
+        std::vector<std::string> items;
+    };
+    using PickListHandler = std::function<int(const PickListRequest& request)>;
+    void SetPickListHandler(PickListHandler handler) { m_pickListHandler = std::move(handler); }
+    const std::vector<PickListRequest>& GetPickListRequests() const { return m_pickLists; }
+
     // Passes a key event through the installed keyboard hooks, as the system
     // would before the key reaches a window. Returns how many hooks ran.
     int InjectHookKey(int nVirtKey, bool bRelease);
@@ -99,6 +112,8 @@ public:
     void RevokeDropTarget(CWnd* pWnd) override;
     HHOOK SetKeyboardHook(HOOKPROC pfn) override;
     BOOL Unhook(HHOOK hHook) override;
+    int RunPickList(CWnd* pParent, const RECT& rc, HFONT hFont,
+                    const std::vector<std::string>& items) override;
 
 private:
     IPlatform* m_pPrevious;
@@ -123,4 +138,7 @@ private:
     std::map<CWnd*, COleDropTarget*> m_dropTargets;
 
     std::vector<std::unique_ptr<HookObject>> m_hooks;
+
+    PickListHandler m_pickListHandler;
+    std::vector<PickListRequest> m_pickLists;
 };

@@ -9,7 +9,9 @@
 #include <chrono>
 #include <cstring>
 
+#include "completion/qt/QtPickList.h"
 #include "platform/DC.h"
+#include "platform/GdiObjects.h"
 #include "platform/Messages.h"
 #include "platform/Wnd.h"
 #include "platform/qt/QtDC.h"
@@ -285,4 +287,13 @@ bool CQtPlatform::eventFilter(QObject* pWatched, QEvent* pEvent) {
     for (HOOKPROC proc : procs)
         swallowed = proc(HC_ACTION, static_cast<WPARAM>(vk), flags) != 0 || swallowed;
     return swallowed;
+}
+
+int CQtPlatform::RunPickList(CWnd* pParent, const RECT& rc, HFONT hFont,
+                             const std::vector<std::string>& items) {
+    QWidget* widget = WidgetOf(pParent);
+    if (!widget) return -1;
+    const QFont font = hFont ? m_fonts.Get(hFont->lf).font : widget->font();
+    const QRect where(QPoint(rc.left, rc.top), QPoint(rc.right - 1, rc.bottom - 1));
+    return CQtPickList::Run(widget, where, font, items);
 }

@@ -73,6 +73,8 @@ public:
     void RevokeDropTarget(CWnd* pWnd) override { m_dragDrop.Revoke(pWnd); }
     HHOOK SetKeyboardHook(HOOKPROC pfn) override;
     BOOL Unhook(HHOOK hHook) override;
+    int RunPickList(CWnd* pParent, const RECT& rc, HFONT hFont,
+                    const std::vector<std::string>& items) override;
 
 protected:
     // Key events pass the keyboard hooks before any widget sees them.
