@@ -187,7 +187,8 @@ void CTextZone::EndEditBlockInput() {
             if (CStringEx* pLine = GetLine(nLine)) {
                 pLine->m_dwBlockFlags &= ~BF_OPEN_HEAD;
                 // An alternate block closed on this line keeps its head.
-                if (FindBlockAt(m_altBlocks, nLine) == m_altBlocks.end()) pLine->m_dwBlockFlags &= ~BF_CLOSED_HEAD;
+                if (FindBlockAt(m_altBlocks, nLine) == m_altBlocks.end())
+                    pLine->m_dwBlockFlags &= ~BF_CLOSED_HEAD;
             }
             ++itOld;
         }

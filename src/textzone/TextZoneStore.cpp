@@ -14,7 +14,6 @@
 
 namespace {
 
-
 void MoveEntries(CStringEx** pTo, CStringEx** pFrom, int nCount) {
     if (nCount > 0) std::memmove(pTo, pFrom, sizeof(CStringEx*) * static_cast<size_t>(nCount));
 }

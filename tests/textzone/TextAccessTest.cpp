@@ -388,8 +388,7 @@ TEST_F(TextAccessTest, TextCheckValuesAgreeWithTheBytewiseSum) {
         m_zone.SetText(text.c_str());
 
         int nLast = m_zone.GetLastLineIndex();
-        while (nLast > 0 && m_zone.GetLine(nLast) &&
-               m_zone.GetLine(nLast)->GetVisibleLength() == 0)
+        while (nLast > 0 && m_zone.GetLine(nLast) && m_zone.GetLine(nLast)->GetVisibleLength() == 0)
             --nLast;
         std::uint32_t total = 0;
         std::uint32_t hash = 0;
@@ -409,7 +408,8 @@ TEST_F(TextAccessTest, TextCheckValuesAgreeWithTheBytewiseSum) {
         int check = 0;
         m_zone.GetTextCRCValues(&size, &check);
         ASSERT_EQ(static_cast<std::uint32_t>(check), hash) << "run " << run;
-        ASSERT_EQ(size, static_cast<int>((static_cast<std::uint32_t>(nLast) << 16) ^ (total & 0xFFFF)))
+        ASSERT_EQ(size,
+                  static_cast<int>((static_cast<std::uint32_t>(nLast) << 16) ^ (total & 0xFFFF)))
             << "run " << run;
     }
 }
