@@ -239,5 +239,7 @@ int main(int argc, char** argv) {
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
+    // Its window must go before the platform's statics do at exit.
+    LoadedDocSlot().reset();
     return 0;
 }

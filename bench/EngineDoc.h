@@ -65,10 +65,16 @@ inline const std::string& Text(int nLines) {
 // A loaded zone of the size, kept between benchmarks: every task leaves the
 // text as it found it, and loading 10M lines each time would cost more than
 // the tasks themselves.
-inline EngineDoc& LoadedDoc(int nLines) {
+// The one loaded document, kept between benchmarks of the same size.
+inline std::unique_ptr<EngineDoc>& LoadedDocSlot() {
     static std::unique_ptr<EngineDoc> doc;
+    return doc;
+}
+
+inline EngineDoc& LoadedDoc(int nLines) {
+    std::unique_ptr<EngineDoc>& doc = LoadedDocSlot();
     static int loaded = -1;
-    if (loaded != nLines) {
+    if (!doc || loaded != nLines) {
         doc.reset();
         doc = std::make_unique<EngineDoc>();
         doc->zone.SetText(Text(nLines).c_str());

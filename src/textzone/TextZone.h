@@ -16,6 +16,7 @@
 #include "host/GraphicText.h"
 #include "host/VeskString.h"
 #include "platform/Types.h"
+#include "textzone/BlockList.h"
 #include "textzone/EditBlk.h"
 #include "textzone/StringEx.h"
 #include "textzone/UndoOperation.h"
@@ -464,9 +465,9 @@ public:
     std::list<std::unique_ptr<CUndoOperation>> m_redoList;
     std::unique_ptr<CUndoOperation> m_pCurrentOperation;
     int m_bUndoing = 0;
-    std::list<std::unique_ptr<CEditBlk>> m_editBlocks;  // sorted by first line
-    std::list<std::unique_ptr<CEditBlk>> m_inputBlocks;
-    std::list<std::unique_ptr<CEditBlk>> m_altBlocks;
+    BlockList m_editBlocks;  // each sorted by first line
+    BlockList m_inputBlocks;
+    BlockList m_altBlocks;
     int m_bMarginMode = 0;
     int m_bBlockMode = 0;
     UINT m_nMarginWidth = 16;

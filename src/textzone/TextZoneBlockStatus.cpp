@@ -1,6 +1,7 @@
 // The closed state as a short hexadecimal string that a host saves with the
 // document: two check values of the text, then the closed blocks and the
 // alternate blocks. It is applied again only to the same text.
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <utility>
@@ -105,17 +106,27 @@ void CTextZone::SetEditorBlockStatus(VESK::String& strStatus) {
     if (check1 != static_cast<std::uint32_t>(nSize) || check2 != static_cast<std::uint32_t>(nHash))
         return;
 
+    // Each close asks to redraw from its head down; one request from the
+    // topmost head covers them all, and costs one position lookup instead
+    // of one per block.
+    const int bRedraw = m_bRedraw;
+    m_bRedraw = 0;
+    std::uint32_t nTop = kMaxField + 1;
     // A string cut short applies what it holds up to the cut.
     for (std::uint32_t i = 0; i < nClosed; ++i) {
         std::uint32_t nLine = 0;
         if (!reader.Read(6, &nLine)) break;
         CloseBlock(static_cast<int>(nLine), 0);
+        nTop = std::min(nTop, nLine);
     }
     for (std::uint32_t i = 0; i < nAlternate; ++i) {
         std::uint32_t nLine = 0;
         std::uint32_t nCount = 0;
         if (!reader.Read(6, &nLine) || !reader.Read(6, &nCount)) break;
         CreateClosedAltBlock(static_cast<int>(nLine), static_cast<int>(nCount), 0);
+        nTop = std::min(nTop, nLine);
     }
+    m_bRedraw = bRedraw;
+    if (nTop <= kMaxField) RedrawLines(static_cast<int>(nTop), TZ_TO_END, 0);
     if (m_pWnd && m_pWnd->GetSafeHwnd()) m_pWnd->UpdateWindow();
 }

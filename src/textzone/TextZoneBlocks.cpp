@@ -46,16 +46,16 @@ int CTextZone::SetEditBlock(int nLine, int nCount) {
     // No block reaches beyond the text.
     if (nLine >= 0) nCount = std::min(nCount, GetLineCount() - nLine);
     const long long nEnd = static_cast<long long>(nLine) + nCount;
-    for (auto& pBlk : m_editBlocks) {
-        if (pBlk->m_nFirstLine != nLine) continue;
+    if (auto itAt = FindBlockAt(m_editBlocks, nLine); itAt != m_editBlocks.end()) {
+        CEditBlk* pBlk = itAt->get();
         if (pBlk->m_nLineCount == nCount) return 1;
         // The extent changes, so the nesting round it may change too.
         for (auto& pOther : m_editBlocks) {
             CEditBlk* pB = pOther.get();
-            if (pB == pBlk.get()) continue;
+            if (pB == pBlk) continue;
             if (pB->m_nFirstLine > nLine && EndOf(*pB) <= nEnd &&
-                (!pB->m_pParent || pB->m_pParent == pBlk.get()))
-                pB->m_pParent = pBlk.get();
+                (!pB->m_pParent || pB->m_pParent == pBlk))
+                pB->m_pParent = pBlk;
             if (pB->m_nFirstLine <= nLine && EndOf(*pB) >= nEnd &&
                 (!pBlk->m_pParent || pBlk->m_pParent == pB))
                 pBlk->m_pParent = pB;
@@ -68,15 +68,22 @@ int CTextZone::SetEditBlock(int nLine, int nCount) {
     if (!pHead) return 0;
     MarkOpenHead(pHead);
 
-    auto pos = std::find_if(m_editBlocks.begin(), m_editBlocks.end(),
-                            [nLine](const auto& pBlk) { return pBlk->m_nFirstLine > nLine; });
+    auto pos = BlocksAfter(m_editBlocks, nLine);
+    // The innermost enclosing block is the last one before it that reaches
+    // at least as far.
     CEditBlk* pParent = nullptr;
-    for (auto it = m_editBlocks.begin(); it != pos; ++it)
-        if (EndOf(**it) >= nEnd) pParent = it->get();
+    for (auto it = pos; it != m_editBlocks.begin();) {
+        --it;
+        if (EndOf(**it) >= nEnd) {
+            pParent = it->get();
+            break;
+        }
+    }
     auto pNew = std::make_unique<CEditBlk>(pParent);
     pNew->m_nFirstLine = nLine;
     pNew->m_nLineCount = nCount;
-    CEditBlk* pBlk = m_editBlocks.insert(pos, std::move(pNew))->get();
+    CEditBlk* pBlk = pNew.get();
+    pos = std::next(m_editBlocks.insert(pos, std::move(pNew)));
 
     // Blocks inside the new one take it as parent, unless they already sit in
     // a block that is itself inside it.
@@ -98,14 +105,12 @@ int CTextZone::AddEditBlockInput(int nLine, int nCount) {
     // Only a block on a line of the text is taken, before any sum is made.
     if (nLine < 0 || !GetLine(nLine)) return 0;
     if (nCount < 0 || nCount > GetLineCount() - nLine) nCount = GetLineCount() - nLine;
-    auto pos = m_inputBlocks.begin();
-    for (; pos != m_inputBlocks.end() && (*pos)->m_nFirstLine <= nLine; ++pos) {
-        if ((*pos)->m_nFirstLine == nLine) {
-            // Reported twice: the larger extent wins.
-            (*pos)->m_nLineCount = std::max((*pos)->m_nLineCount, nCount);
-            return 1;
-        }
+    if (auto it = FindBlockAt(m_inputBlocks, nLine); it != m_inputBlocks.end()) {
+        // Reported twice: the larger extent wins.
+        (*it)->m_nLineCount = std::max((*it)->m_nLineCount, nCount);
+        return 1;
     }
+    auto pos = BlocksAfter(m_inputBlocks, nLine);
     auto pNew = std::make_unique<CEditBlk>(nullptr);
     pNew->m_nFirstLine = nLine;
     pNew->m_nLineCount = nCount;
@@ -182,10 +187,8 @@ void CTextZone::EndEditBlockInput() {
             if (CStringEx* pLine = GetLine(nLine)) {
                 pLine->m_dwBlockFlags &= ~BF_OPEN_HEAD;
                 // An alternate block closed on this line keeps its head.
-                bool bAltHead =
-                    std::any_of(m_altBlocks.begin(), m_altBlocks.end(),
-                                [nLine](const auto& p) { return p->m_nFirstLine == nLine; });
-                if (!bAltHead) pLine->m_dwBlockFlags &= ~BF_CLOSED_HEAD;
+                if (FindBlockAt(m_altBlocks, nLine) == m_altBlocks.end())
+                    pLine->m_dwBlockFlags &= ~BF_CLOSED_HEAD;
             }
             ++itOld;
         }

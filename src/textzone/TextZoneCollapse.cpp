@@ -10,15 +10,8 @@
 
 namespace {
 
-using BlockList = std::list<std::unique_ptr<CEditBlk>>;
-
 long long EndOf(const CEditBlk& blk) {
     return static_cast<long long>(blk.m_nFirstLine) + blk.m_nLineCount;
-}
-
-BlockList::iterator FindAt(BlockList& list, int nLine) {
-    return std::find_if(list.begin(), list.end(),
-                        [nLine](const auto& pBlk) { return pBlk->m_nFirstLine == nLine; });
 }
 
 // Sets the hidden flag on the lines [nFrom, nTo), stopping at a missing line.
@@ -37,8 +30,8 @@ bool HideLines(CTextZone& zone, long long nFrom, long long nTo) {
 }  // namespace
 
 int CTextZone::OpenBlock(int nLine, int bUpdate) {
-    auto itAlt = FindAt(m_altBlocks, nLine);
-    auto itEdit = FindAt(m_editBlocks, nLine);
+    auto itAlt = FindBlockAt(m_altBlocks, nLine);
+    auto itEdit = FindBlockAt(m_editBlocks, nLine);
     CEditBlk* pEdit = itEdit != m_editBlocks.end() ? itEdit->get() : nullptr;
     CEditBlk* pBlk = nullptr;
     bool bChanged = false;
@@ -83,8 +76,7 @@ int CTextZone::OpenBlock(int nLine, int bUpdate) {
             for (const auto& p : m_editBlocks)
                 if (p->m_nFirstLine < nEnd && EndOf(*p) > nLine + 1 && p->IsClosed())
                     closedRound.push_back(p.get());
-        auto itInner = std::find_if(m_editBlocks.begin(), m_editBlocks.end(),
-                                    [nLine](const auto& p) { return p->m_nFirstLine > nLine; });
+        auto itInner = BlocksAfter(m_editBlocks, nLine);
         for (long long n = static_cast<long long>(nLine) + 1; n < nEnd;) {
             CStringEx* pLine = GetLine(static_cast<int>(n));
             if (!pLine) break;
@@ -118,7 +110,7 @@ int CTextZone::OpenBlock(int nLine, int bUpdate) {
 }
 
 int CTextZone::CloseBlock(int nLine, int bUpdate) {
-    auto it = FindAt(m_editBlocks, nLine);
+    auto it = FindBlockAt(m_editBlocks, nLine);
     if (it == m_editBlocks.end()) return 0;
     CEditBlk* pBlk = it->get();
     const long long nEnd = EndOf(*pBlk);
@@ -126,11 +118,9 @@ int CTextZone::CloseBlock(int nLine, int bUpdate) {
     // Alternate blocks starting inside: one that sticks out makes the whole
     // run one alternate block; the others give way to this block.
     std::vector<std::pair<int, long long>> inside;
-    for (const auto& pAlt : m_altBlocks) {
-        if (pAlt->m_nFirstLine < nLine) continue;
-        if (pAlt->m_nFirstLine >= nEnd) break;
-        inside.emplace_back(pAlt->m_nFirstLine, EndOf(*pAlt));
-    }
+    for (auto itAlt = BlocksFrom(m_altBlocks, nLine);
+         itAlt != m_altBlocks.end() && (*itAlt)->m_nFirstLine < nEnd; ++itAlt)
+        inside.emplace_back((*itAlt)->m_nFirstLine, EndOf(**itAlt));
     for (const auto& [nFirst, nAltEnd] : inside) {
         if (nAltEnd > nEnd)
             return CreateClosedAltBlock(nLine, static_cast<int>(nAltEnd - nLine), bUpdate);
@@ -152,13 +142,13 @@ int CTextZone::CreateClosedAltBlock(int nLine, int nCount, int bUpdate) {
     const long long nEnd = static_cast<long long>(nLine) + nCount;
 
     std::vector<int> inner;
-    for (const auto& pAlt : m_altBlocks)
-        if (pAlt->m_nFirstLine > nLine && pAlt->m_nFirstLine < nEnd)
-            inner.push_back(pAlt->m_nFirstLine);
+    for (auto itAlt = BlocksAfter(m_altBlocks, nLine);
+         itAlt != m_altBlocks.end() && (*itAlt)->m_nFirstLine < nEnd; ++itAlt)
+        inner.push_back((*itAlt)->m_nFirstLine);
     for (int nFirst : inner)
         OpenBlock(nFirst, 0);
 
-    auto it = FindAt(m_altBlocks, nLine);
+    auto it = FindBlockAt(m_altBlocks, nLine);
     if (it != m_altBlocks.end()) {
         CEditBlk& blk = **it;
         if (blk.m_nLineCount == nCount) return 1;
@@ -180,9 +170,7 @@ int CTextZone::CreateClosedAltBlock(int nLine, int nCount, int bUpdate) {
     pNew->m_nFirstLine = nLine;
     pNew->m_nLineCount = nCount;
     pNew->m_bClosed = 1;
-    auto pos = std::find_if(m_altBlocks.begin(), m_altBlocks.end(),
-                            [nLine](const auto& p) { return p->m_nFirstLine > nLine; });
-    m_altBlocks.insert(pos, std::move(pNew));
+    m_altBlocks.insert(BlocksAfter(m_altBlocks, nLine), std::move(pNew));
 
     pHead->m_dwBlockFlags = (pHead->m_dwBlockFlags & ~BF_OPEN_HEAD) | 2u;
     HideLines(*this, static_cast<long long>(nLine) + 1, nEnd);

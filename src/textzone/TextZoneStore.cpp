@@ -14,8 +14,6 @@
 
 namespace {
 
-using BlockList = std::list<std::unique_ptr<CEditBlk>>;
-
 void MoveEntries(CStringEx** pTo, CStringEx** pFrom, int nCount) {
     if (nCount > 0) std::memmove(pTo, pFrom, sizeof(CStringEx*) * static_cast<size_t>(nCount));
 }
@@ -259,14 +257,15 @@ void CTextZone::RemoveLines(int nFirst, int nCount) {
     if (nCount < 1) return;
 
     const long long nEnd = static_cast<long long>(nFirst) + nCount;
+    // The blocks that stay are packed towards the front in one pass.
     std::vector<std::unique_ptr<CEditBlk>> gone;
-    for (auto it = m_editBlocks.begin(); it != m_editBlocks.end();) {
+    auto kept = m_editBlocks.begin();
+    for (auto it = m_editBlocks.begin(); it != m_editBlocks.end(); ++it) {
         CEditBlk& blk = **it;
         if (blk.m_nFirstLine >= nEnd) {
             blk.m_nFirstLine -= nCount;
         } else if (blk.m_nFirstLine >= nFirst) {
             gone.push_back(std::move(*it));
-            it = m_editBlocks.erase(it);
             continue;
         } else if (blk.m_nFirstLine + blk.m_nLineCount > nEnd) {
             // The run lies inside the block: the block loses just those lines,
@@ -275,8 +274,10 @@ void CTextZone::RemoveLines(int nFirst, int nCount) {
         } else if (blk.m_nFirstLine + blk.m_nLineCount > nFirst) {
             blk.m_nLineCount = nFirst - blk.m_nFirstLine;
         }
-        ++it;
+        if (kept != it) *kept = std::move(*it);
+        ++kept;
     }
+    m_editBlocks.erase(kept, m_editBlocks.end());
     // Lines of a closed block whose first line goes would stay hidden with
     // no head left to open them: they are shown again below.
     std::vector<std::pair<long long, long long>> orphaned;

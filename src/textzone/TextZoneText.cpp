@@ -268,23 +268,36 @@ void CTextZone::GetTextCRCValues(int* pSize, int* pHash) {
         --nLast;
     }
 
+    // Each counted byte is added shifted by its place in the count modulo
+    // 21. A shift distributes over addition modulo 2^32, so the bytes are
+    // summed per place first and shifted once at the end: the same value,
+    // from a loop of fixed length that the compiler vectorises. A line that
+    // starts at place r adds to sums[r] on, so sums has room for r + 20.
+    std::uint32_t sums[42] = {};
     std::uint32_t total = 0;
-    std::uint32_t hash = 0;
-    int shift = 0;
-    for (int n = 0; n <= nLast; ++n) {
-        CStringEx* pLine = GetLine(n);
-        if (!pLine) break;
+    int place = 0;
+    int n = 0;
+    ForEachStoredLine([&](CStringEx* pLine) {
+        if (n++ > nLast) return false;
         const char* text = pLine->c_str();
-        int nEnd = pLine->GetVisibleLength();
+        const int nEnd = pLine->GetVisibleLength();
         int k = 0;
         while (k < nEnd && IsBlank(text[k]))
             ++k;
-        for (; k < nEnd; ++k) {
-            hash += static_cast<std::uint32_t>(static_cast<unsigned char>(text[k])) << shift;
-            ++total;
-            shift = shift == 20 ? 0 : shift + 1;
-        }
-    }
+        const int nCount = nEnd - k;
+        std::uint32_t* acc = sums + place;
+        for (; k + 21 <= nEnd; k += 21)
+            for (int j = 0; j < 21; ++j)
+                acc[j] += static_cast<unsigned char>(text[k + j]);
+        for (int j = 0; k < nEnd; ++j, ++k)
+            acc[j] += static_cast<unsigned char>(text[k]);
+        total += static_cast<std::uint32_t>(nCount);
+        place = (place + nCount) % 21;
+        return true;
+    });
+    std::uint32_t hash = 0;
+    for (int j = 0; j < 42; ++j)
+        hash += sums[j] << (j % 21);
     if (pSize)
         *pSize = static_cast<int>((static_cast<std::uint32_t>(nLast) << 16) ^ (total & 0xFFFF));
     if (pHash) *pHash = static_cast<int>(hash);

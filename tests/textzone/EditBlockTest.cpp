@@ -43,7 +43,7 @@ protected:
             if (pBlk->m_nFirstLine == nFirst) return pBlk.get();
         return nullptr;
     }
-    static Extents Of(const std::list<std::unique_ptr<CEditBlk>>& list) {
+    static Extents Of(const BlockList& list) {
         Extents v;
         for (auto& pBlk : list)
             v.push_back({pBlk->m_nFirstLine, pBlk->m_nLineCount});

@@ -171,8 +171,7 @@ TEST(LineStoreTest, EditBlocksFollowInsertionAndRemoval) {
     Store s;
     CTestZone& zone = s.zone;
     s.Fill(20);
-    auto add = [](std::list<std::unique_ptr<CEditBlk>>& list, int first, int count,
-                  CEditBlk* parent) {
+    auto add = [](BlockList& list, int first, int count, CEditBlk* parent) {
         list.push_back(std::make_unique<CEditBlk>(parent));
         list.back()->m_nFirstLine = first;
         list.back()->m_nLineCount = count;
