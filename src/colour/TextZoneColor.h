@@ -126,6 +126,8 @@ protected:
     void AddColorDef(int nPos, COLORREF crColor);
     // Text colour from nPos on, unless a run already starts there.
     void CloseColorDef(int nPos);
+    // A run not yet placed, taken from the freed ones where there are any.
+    std::unique_ptr<CColorDef> NewColorDef(int nPos, COLORREF crColor);
     // A token coloured from nStart, closed at nEnd.
     struct TokenRun {
         int nStart;

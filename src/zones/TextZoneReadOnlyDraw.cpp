@@ -42,17 +42,8 @@ bool IsDark(COLORREF cr) {
 }  // namespace
 
 CColorDef* CTextZoneReadOnly::InsertRun(size_t nAt, int nPos, COLORREF crWord) {
-    std::unique_ptr<CColorDef> def;
-    if (!m_freeColorDefs.empty()) {
-        def = std::move(m_freeColorDefs.back());
-        m_freeColorDefs.pop_back();
-    } else {
-        def = std::make_unique<CColorDef>();
-    }
-    def->nPos = nPos;
-    def->crColor = crWord;
-    auto it =
-        m_colorDefs.insert(m_colorDefs.begin() + static_cast<std::ptrdiff_t>(nAt), std::move(def));
+    auto it = m_colorDefs.insert(m_colorDefs.begin() + static_cast<std::ptrdiff_t>(nAt),
+                                 NewColorDef(nPos, crWord));
     return it->get();
 }
 
