@@ -151,6 +151,11 @@ protected:
     // comment opens (-1 for nowhere), found by rules of the caller's own.
     int FindOpener(const char* pText, int nFrom, int nLineComment, int* pnLength, int* pnKind,
                    std::uint32_t* pnState);
+    // FindOpener with the line comments that the language's rules make
+    // rather than an opener: "rem" at the start, a COBOL comment line or
+    // "*>". Used by the colouring and by the comment-free copy of a line.
+    int FindPartOpener(const char* pText, int nFrom, int* pnLength, int* pnKind,
+                       std::uint32_t* pnState);
     // The state at the end of a line that starts in nState.
     std::uint32_t AdvanceState(CStringExColor* pLine, std::uint32_t nState);
     // "rem" and a blank after leading blanks: a Visual Basic comment line.
