@@ -200,7 +200,10 @@ protected:
 
     // --- Drawing and the edit wrappers (TextZoneColorDraw.cpp,
     // TextZoneColorEdit.cpp, TextZoneColorKeys.cpp) ---
-    void DrawMarginMarks(CDC* pDC, DWORD marks, int y, int h);
+    // The selection on a line as two columns (-1 for none) at which the
+    // drawing swaps between selected and plain, and the side it starts on;
+    // false when the line holds no selection.
+    bool LineSelectionBounds(int nLine, int* pA, int* pB, bool* pbStartSelected);
     // Where the drawing walk of a line scrolled to the left can start: the
     // last place at which the walk cuts the text whose text ends left of
     // the rectangle, with its offset in *pdx; 0 for the line's start.
