@@ -18,7 +18,6 @@ TEST(ColourModel, ClassesOutsideOneToNineAreIgnored) {
         EXPECT_NE(zone.GetSyntaxColor(c), 0x123456u) << c;
     zone.SetSyntaxColor(9, 0x123456);
     EXPECT_EQ(zone.GetSyntaxColor(9), 0x123456u);
-    EXPECT_EQ(zone.m_crSyntax[8], 0x123456u);
 }
 
 TEST(ColourModel, StoredColoursAndTheirParsing) {
@@ -115,14 +114,6 @@ TEST(ColourModel, ContinuationEnding) {
         CStringExColor line(c.text);
         EXPECT_EQ(line.IsVBContinueEnding(), c.expected) << '"' << c.text << '"';
     }
-}
-
-TEST_F(ColourTest, EveryLineIsAColourLine) {
-    m_zone.SetText("a\nb\n");
-    m_zone.SetSelection(0, 0, 1, 1, 0, 0);
-    m_zone.InsertText("x\ny\n", 0, 0, 0);
-    for (int n = 0; m_zone.GetLine(n); ++n)
-        EXPECT_NE(dynamic_cast<CStringExColor*>(m_zone.GetLine(n)), nullptr) << n;
 }
 
 TEST_F(ColourTest, SettingsRoundTrip) {

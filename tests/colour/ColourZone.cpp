@@ -45,6 +45,10 @@ void ColourTest::Attach(CTextZoneColor& zone) {
 
 std::string ColourTest::Runs(int nLine) {
     m_zone.DefineColors(nLine, m_zone.GetLine(nLine));
+    return TakeRuns();
+}
+
+std::string ColourTest::TakeRuns() {
     std::string out;
     for (const auto& def : m_zone.m_colorDefs) {
         if (!out.empty()) out += ", ";
@@ -52,6 +56,14 @@ std::string ColourTest::Runs(int nLine) {
     }
     m_zone.FreeColorDefs();
     return out;
+}
+
+std::vector<unsigned int> ColourTest::States(const char* pszText) {
+    m_zone.SetText(pszText);
+    std::vector<unsigned int> states;
+    for (int n = 0; m_zone.GetLine(n); ++n)
+        states.push_back(m_zone.StartWithWhat(n));
+    return states;
 }
 
 std::string ColourTest::RunsOf(const char* pszText, int nLine) {

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "colour/TextZoneColor.h"
 #include "platform/Font.h"
@@ -51,6 +52,11 @@ protected:
     std::string Runs(int nLine);
     // Sets the text and gives the runs of one of its lines.
     std::string RunsOf(const char* pszText, int nLine = 0);
+    // The runs the zone holds now, in the form of Runs, and frees them.
+    std::string TakeRuns();
+    // Sets the text and gives the start state of each of its lines.
+    std::vector<unsigned int> States(const char* pszText);
+    using S = std::vector<unsigned int>;
     // The runs of every line with the text each run covers, one run a line:
     // the form of the golden files.
     std::string Dump();

@@ -18,13 +18,7 @@ protected:
     std::string Build(const char* pszPiece, unsigned int nType, bool bJava, int nOffset = 0) {
         std::string piece(pszPiece);
         m_zone.BuildEmbeddedColor(piece.data(), nType, bJava ? 1 : 0, nOffset);
-        std::string out;
-        for (const auto& def : m_zone.m_colorDefs) {
-            if (!out.empty()) out += ", ";
-            out += std::to_string(def->nPos) + " " + ClassName(def->crColor);
-        }
-        m_zone.FreeColorDefs();
-        return out;
+        return TakeRuns();
     }
 };
 

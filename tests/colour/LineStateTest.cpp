@@ -9,18 +9,7 @@
 
 namespace {
 
-class LineStateTest : public ColourTest {
-protected:
-    // The start state of every line of the text.
-    std::vector<unsigned int> States(const char* pszText) {
-        m_zone.SetText(pszText);
-        std::vector<unsigned int> states;
-        for (int n = 0; m_zone.GetLine(n); ++n)
-            states.push_back(m_zone.StartWithWhat(n));
-        return states;
-    }
-    using S = std::vector<unsigned int>;
-};
+using LineStateTest = ColourTest;
 
 TEST_F(LineStateTest, CFamilyStringsGoOnOnlyBehindABackslash) {
     // One backslash carries the string on, two end it; an empty line keeps it.

@@ -12,17 +12,6 @@ int Index(const char* pText, const char* pHit) {
     return pHit ? static_cast<int>(pHit - pText) : -1;
 }
 
-TEST(MarkupSearchTest, FindNoCase) {
-    const char* t = "<Script LANGUAGE=VBScript>";
-    EXPECT_EQ(Index(t, FindNoCase(t, "script")), 1);
-    EXPECT_EQ(Index(t, FindNoCase(t, "language")), 8);
-    EXPECT_EQ(Index(t, FindNoCase(t, "vbscript")), 17);
-    EXPECT_EQ(Index(t, FindNoCase(t, "scripts")), -1);
-    // A word cut off by the end of the text is no hit.
-    EXPECT_EQ(FindNoCase("scrip", "script"), nullptr);
-    EXPECT_EQ(FindNoCase("", "a"), nullptr);
-}
-
 TEST(MarkupSearchTest, ScriptEndIsASlashAndSixLetters) {
     struct Case {
         const char* text;

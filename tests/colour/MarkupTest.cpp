@@ -21,14 +21,6 @@ protected:
         ColourTest::SetUp();
         m_zone.SetClientLanguageSyntaxColor(310);
     }
-    std::vector<unsigned int> States(const char* pszText) {
-        m_zone.SetText(pszText);
-        std::vector<unsigned int> states;
-        for (int n = 0; m_zone.GetLine(n); ++n)
-            states.push_back(m_zone.StartWithWhat(n));
-        return states;
-    }
-    using S = std::vector<unsigned int>;
 };
 
 TEST_F(MarkupTest, ScriptBodiesAndTheirLanguage) {

@@ -77,20 +77,6 @@ TEST_F(AppDataManagerTest, MissingSettingsObjectReadsZeroAndEmptyAndDropsWrites)
     EXPECT_EQ(ReadSettingInt("Editor", "TabSize", 4), 8);
 }
 
-TEST_F(AppDataManagerTest, WriteLogKeepsTheOrderOfWrites) {
-    WriteSettingInt("Editor", "MarginMode", 1);
-    WriteSettingInt("Editor", "BlockMode", 0);
-    WriteSettingString("Editor", "Comment", "000,127,000");
-    WriteSettingString("Editor_Shortcuts", "EnableShortcuts", nullptr);
-    WriteSettingString("Editor_Shortcuts", "EnableShortcuts", "1");
-    EXPECT_EQ(m_manager.GetWriteLog(),
-              (std::vector<std::string>{
-                  "Editor/MarginMode=1", "Editor/BlockMode=0", "Editor/Comment=000,127,000",
-                  "Editor_Shortcuts/EnableShortcuts", "Editor_Shortcuts/EnableShortcuts=1"}));
-    m_manager.ClearWriteLog();
-    EXPECT_TRUE(m_manager.GetWriteLog().empty());
-}
-
 TEST_F(AppDataManagerTest, ReadStringTruncatesToTheBufferAndAlwaysEndsIt) {
     m_manager.WriteString("S", "K", "abcdef");
     char buf[8];

@@ -35,13 +35,11 @@ TEST(HeadlessFontsTest, FixedAndProportionalFacesMeasureAsDocumented) {
     ASSERT_TRUE(fixed.dc.GetTextMetrics(&tm));
     EXPECT_EQ(tm.tmHeight, 16);
     EXPECT_EQ(tm.tmAveCharWidth, 8);
-    EXPECT_EQ(tm.tmOverhang, 0);
     EXPECT_EQ(fixed.dc.GetTextExtent("iW\xE9", 3).cx, 24);
 
     Canvas prop(CHeadlessFonts::kProportionalFace, 16);
     EXPECT_EQ(prop.dc.GetTextExtent("i", 1).cx, 4);
     EXPECT_EQ(prop.dc.GetTextExtent("W", 1).cx, 12);
-    EXPECT_EQ(prop.dc.GetTextExtent("a", 1).cx, 8);
     EXPECT_EQ(prop.dc.GetTextExtent("iWa", 3).cx, 24);
     prop.dc.GetTextMetrics(&tm);
     EXPECT_EQ(tm.tmMaxCharWidth, 12);
@@ -49,8 +47,6 @@ TEST(HeadlessFontsTest, FixedAndProportionalFacesMeasureAsDocumented) {
     // Heights scale the widths; negative heights mean the same size.
     Canvas big(CHeadlessFonts::kFixedFace, -20);
     EXPECT_EQ(big.dc.GetTextExtent("ab", 2).cx, 20);
-    EXPECT_TRUE(CHeadlessFonts::IsProportionalFace("arial"));
-    EXPECT_FALSE(CHeadlessFonts::IsProportionalFace("Courier New"));
 }
 
 TEST(DCTest, TabbedExtentsFollowTheStops) {

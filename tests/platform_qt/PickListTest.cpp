@@ -119,13 +119,6 @@ TEST_F(PickListTest, EscapeLeavesTheTextAsItWas) {
     EXPECT_EQ(m_zone.GetUndoType(), 0) << "nothing was inserted";
 }
 
-TEST_F(PickListTest, RightCtrlAsksForTheHostsWordsAlone) {
-    CompleteTyping({Qt::Key_Return}, 105);
-    ASSERT_NE(m_pList, nullptr) << "no list came up";
-    EXPECT_EQ(m_nMode, 1);
-    EXPECT_EQ(Text(), "x qqa \r\n");
-}
-
 TEST_F(PickListTest, ADoubleClickAcceptsAndAClickElsewhereCancels) {
     CompleteThen([this](QWidget*) {
         if (!m_pList) return;

@@ -92,19 +92,6 @@ TEST_F(ZonePaintTest, SelectedTextStandsInTheSelectionColours) {
     EXPECT_GT(Count(image, 0, h, 7 * w, 11 * w, GetSysColor(COLOR_HIGHLIGHTTEXT)), 0);
 }
 
-TEST_F(ZonePaintTest, ADarkBookmarkColourGivesWhiteText) {
-    ASSERT_TRUE(Zone().SetText("first\r\nmarked line\r\nlast\r\n"));
-    Zone().SetBookmarkColor(RGB(0, 0, 128), 0);
-    Zone().SetLineBookmark(1, 0, 1);
-    Zone().SetSelection(2, 2, 0, 0, 0, 0);
-    QImage image = Painted();
-    const int h = LineHeight(), w = CharWidth();
-    EXPECT_GT(Count(image, h, 2 * h, 0, 11 * w, RGB(0, 0, 128)), 11 * w * h / 3);
-    EXPECT_GT(Count(image, h, 2 * h, 0, 11 * w, RGB(255, 255, 255)), 0);
-    // The lines around keep black text on white.
-    EXPECT_EQ(Count(image, 0, h, 0, 5 * w, RGB(0, 0, 128)), 0);
-}
-
 TEST_F(ZonePaintTest, ALineOfOverAThousandBytesHasNoGapWherePiecesMeet) {
     ASSERT_TRUE(Zone().SetText((std::string(1100, 'M') + "\r\n").c_str()));
     Zone().SetSelection(0, 0, 0, 0, 0, 0);
