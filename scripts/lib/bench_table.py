@@ -42,6 +42,8 @@ TASKS = [
     ("TypeColour", "Coloured T-SQL: a letter typed in the middle, with its repaint (budget 1 ms)"),
     ("OpenComment", "Coloured T-SQL: the '*' that opens a comment at line 100, with the repaint (budget 3 ms)"),
     ("CtrlEnd", "Coloured T-SQL: Ctrl+End from the top, painted in colour (budget 1 s)"),
+    ("TypeKeyword", "Keyword case (upper): a key of \"select \" typed in the middle, converted and repainted (budget 1 ms)"),
+    ("RescanQuote", "Keyword case (upper): a quote typed in the middle, then Down, analysing every line below"),
 ]
 
 
