@@ -8,6 +8,7 @@
 #include <memory>
 #include <string>
 
+#include "EngineDoc.h"
 #include "SqlText.h"
 #include "colour/TextZoneColor.h"
 #include "platform/Font.h"
@@ -18,7 +19,8 @@
 
 namespace {
 
-constexpr RECT kWindow{0, 0, 800, 600};
+using bench::Seconds;
+
 constexpr int kScreenLines = 60;
 
 class CBenchColorZone : public CTextZoneColor {
@@ -29,28 +31,8 @@ public:
 };
 
 // A coloured zone in a headless window, as T-SQL of dialect 90.
-struct ColourDoc {
-    ColourDoc() {
-        wnd.Create(WS_VISIBLE, kWindow, nullptr, 1);
-        LOGFONTA lf = CHeadlessFonts::MakeFont(CHeadlessFonts::kFixedFace, 16);
-        font.CreateFontIndirect(&lf);
-        zone.SetWindow(&wnd);
-        RECT client;
-        wnd.GetClientRect(&client);
-        zone.SetRect(&client);
-        zone.SetFont(font);
-        zone.SetSQLSyntaxColor(14);
-    }
-    ~ColourDoc() {
-        zone.HideCaret();
-        wnd.DestroyWindow();
-    }
-    ColourDoc(const ColourDoc&) = delete;
-    ColourDoc& operator=(const ColourDoc&) = delete;
-
-    CWnd wnd;
-    CFont font;
-    CBenchColorZone zone;
+struct ColourDoc : bench::ZoneDoc<CBenchColorZone> {
+    ColourDoc() { zone.SetSQLSyntaxColor(14); }
 };
 
 // Lines of T-SQL as dense as procedures get: keywords of every table,
@@ -78,13 +60,6 @@ const std::string& DenseText() {
         return t;
     }();
     return text;
-}
-
-template <class F>
-double Seconds(F&& f) {
-    const auto t0 = std::chrono::steady_clock::now();
-    f();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count();
 }
 
 // The runs of 60 lines in the middle of dense T-SQL, their states cached

@@ -28,6 +28,7 @@
 #include <memory>
 #include <string>
 
+#include "QtBenchWidgets.h"
 #include "SqlText.h"
 #include "colour/TextZoneColor.h"
 #include "editor/qt/QtEditorWidget.h"
@@ -36,29 +37,15 @@
 
 namespace {
 
-constexpr int kWidth = 800;
-constexpr int kHeight = 600;
-constexpr int kFontPixels = 15;
+using bench::EditorFont;
+using bench::kFontPixels;
+using bench::kHeight;
+using bench::kWidth;
+using bench::Seconds;
+using bench::Settle;
+
 constexpr unsigned int kTransactSql90 = 14;  // the language id of T-SQL, dialect 90
 constexpr int kCommentLine = 100;
-
-QFont EditorFont() {
-    QFont font("DejaVu Sans Mono");
-    font.setPixelSize(kFontPixels);
-    font.setStyleHint(QFont::Monospace);
-    return font;
-}
-
-template <class F>
-double Seconds(F&& f) {
-    const auto t0 = std::chrono::steady_clock::now();
-    f();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count();
-}
-
-void Settle() {
-    QCoreApplication::processEvents();
-}
 
 void SendKey(QWidget* pWidget, int key, Qt::KeyboardModifiers mods, const QString& text) {
     QKeyEvent press(QEvent::KeyPress, key, mods, text);

@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 
+#include "Seconds.h"
 #include "SqlText.h"
 #include "platform/Font.h"
 #include "platform/Messages.h"
@@ -19,9 +20,10 @@ namespace bench {
 // The window every zone lives in: 800 x 600, like the peers' widgets.
 constexpr RECT kWindow{0, 0, 800, 600};
 
-// A zone in a headless window, with a fixed font of 16 pixels.
-struct EngineDoc {
-    EngineDoc() {
+// A zone of any kind in a headless window, with a fixed font of 16 pixels.
+template <class Zone>
+struct ZoneDoc {
+    ZoneDoc() {
         wnd.Create(WS_VISIBLE, kWindow, nullptr, 1);
         LOGFONTA lf = CHeadlessFonts::MakeFont(CHeadlessFonts::kFixedFace, 16);
         font.CreateFontIndirect(&lf);
@@ -31,12 +33,12 @@ struct EngineDoc {
         zone.SetRect(&client);
         zone.SetFont(font);
     }
-    ~EngineDoc() {
+    ~ZoneDoc() {
         zone.HideCaret();
         wnd.DestroyWindow();
     }
-    EngineDoc(const EngineDoc&) = delete;
-    EngineDoc& operator=(const EngineDoc&) = delete;
+    ZoneDoc(const ZoneDoc&) = delete;
+    ZoneDoc& operator=(const ZoneDoc&) = delete;
 
     int LineLength(int nLine) {
         CStringEx* pLine = zone.GetLine(nLine);
@@ -46,8 +48,10 @@ struct EngineDoc {
 
     CWnd wnd;
     CFont font;
-    CTextZone zone;
+    Zone zone;
 };
+
+using EngineDoc = ZoneDoc<CTextZone>;
 
 // The text of the last size asked for, made once per size.
 inline const std::string& Text(int nLines) {
@@ -81,13 +85,6 @@ inline EngineDoc& LoadedDoc(int nLines) {
         loaded = nLines;
     }
     return *doc;
-}
-
-template <class F>
-double Seconds(F&& f) {
-    const auto t0 = std::chrono::steady_clock::now();
-    f();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count();
 }
 
 // An edit as a host makes one: one undo operation around the change.

@@ -22,6 +22,7 @@
 #include <memory>
 #include <string>
 
+#include "QtBenchWidgets.h"
 #include "SqlText.h"
 #include "editor/qt/QtEditorWidget.h"
 #include "platform/qt/QtPlatform.h"
@@ -29,29 +30,12 @@
 
 namespace {
 
-constexpr int kWidth = 800;
-constexpr int kHeight = 600;
-constexpr int kFontPixels = 15;
-
-QFont EditorFont() {
-    QFont font("DejaVu Sans Mono");
-    font.setPixelSize(kFontPixels);
-    font.setStyleHint(QFont::Monospace);
-    return font;
-}
-
-template <class F>
-double Seconds(F&& f) {
-    const auto t0 = std::chrono::steady_clock::now();
-    f();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count();
-}
-
-// Lets Qt deliver what the last step posted (updates, timers), outside the
-// measured time, so that no step pays for the one before.
-void Settle() {
-    QCoreApplication::processEvents();
-}
+using bench::EditorFont;
+using bench::kFontPixels;
+using bench::kHeight;
+using bench::kWidth;
+using bench::Seconds;
+using bench::Settle;
 
 // The text of the last size asked for, as bytes and as a QString (the
 // peers' own input type; converting is not part of their load).

@@ -2,6 +2,7 @@
 
 #include <cctype>
 #include <cstring>
+#include <initializer_list>
 
 #include "colour/MarkupStates.h"
 
@@ -77,4 +78,24 @@ int DirectiveLanguage(const char* pText) {
         if (FindNoCase(pLanguage + 8, "java") || FindNoCase(pLanguage + 8, "jscript")) return 1;
     if (FindNoCase(pText, "vbscript")) return 0;
     return -1;
+}
+
+TagSectionStops ScanTagSection(const char* t, int p, std::uint32_t* pnState, bool bXml) {
+    TagSectionStops stops{};
+    stops.gt = OffsetOf(t, std::strchr(t + p, '>'));
+    stops.dq = OffsetOf(t, std::strchr(t + p, '"'));
+    stops.sq = OffsetOf(t, std::strchr(t + p, '\''));
+    stops.cm = *pnState == MS_DECLARATION ? OffsetOf(t, FindHtmlComment(t + p)) : -1;
+    if (*pnState == MS_TAG && !bXml) {
+        const char* pScript = FindNoCase(t + p, "script");
+        if (pScript == t + p + 1) {
+            const char* pLanguage = FindNoCase(pScript, "language");
+            *pnState =
+                pLanguage && FindNoCase(pLanguage, "vbscript") ? MS_VBSCRIPT_TAG : MS_SCRIPT_TAG;
+        }
+    }
+    stops.first = -1;
+    for (int at : {stops.gt, stops.dq, stops.sq, stops.cm})
+        if (at >= 0 && (stops.first < 0 || at < stops.first)) stops.first = at;
+    return stops;
 }

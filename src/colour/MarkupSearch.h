@@ -3,6 +3,11 @@
 
 #include <cstdint>
 
+// The offset of p in pText, or -1 for a search that found nothing.
+inline int OffsetOf(const char* pText, const char* p) {
+    return p ? static_cast<int>(p - pText) : -1;
+}
+
 // The first occurrence of pWord regardless of (ASCII) case, or null.
 const char* FindNoCase(const char* pText, const char* pWord);
 
@@ -26,3 +31,16 @@ std::uint32_t MarkupOpener(const char* pLt, bool bXml);
 // 1 Java-like ("language" and then "java" or "jscript"), 0 VB-like
 // ("vbscript"), -1 when it names neither.
 int DirectiveLanguage(const char* pText);
+
+// Where the tag section of state *pnState starting at p stops: offsets of the
+// next '>', '"', '\'' and (in a declaration) comment opener, -1 for each
+// missing, and the earliest of them. In HTML a plain tag that names SCRIPT
+// turns *pnState into the SCRIPT tag of the language it names.
+struct TagSectionStops {
+    int gt;
+    int dq;
+    int sq;
+    int cm;
+    int first;
+};
+TagSectionStops ScanTagSection(const char* t, int p, std::uint32_t* pnState, bool bXml);

@@ -148,6 +148,10 @@ void CTextZoneColor::AddColorDef(int nPos, COLORREF crColor) {
         m_freeColorDefs.push_back(std::move(*it));
         it = m_colorDefs.erase(it);
     }
+    m_colorDefs.insert(it, NewColorDef(nPos, crColor));
+}
+
+std::unique_ptr<CColorDef> CTextZoneColor::NewColorDef(int nPos, COLORREF crColor) {
     std::unique_ptr<CColorDef> def;
     if (!m_freeColorDefs.empty()) {
         def = std::move(m_freeColorDefs.back());
@@ -157,7 +161,7 @@ void CTextZoneColor::AddColorDef(int nPos, COLORREF crColor) {
     }
     def->nPos = nPos;
     def->crColor = crColor;
-    m_colorDefs.insert(it, std::move(def));
+    return def;
 }
 
 void CTextZoneColor::CloseColorDef(int nPos) {
@@ -174,16 +178,7 @@ void CTextZoneColor::AddTokenRuns(std::vector<TokenRun>& tokens) {
     std::sort(tokens.begin(), tokens.end(),
               [](const TokenRun& a, const TokenRun& b) { return a.nStart < b.nStart; });
     auto take = [&](int nPos, COLORREF crColor) {
-        std::unique_ptr<CColorDef> def;
-        if (!m_freeColorDefs.empty()) {
-            def = std::move(m_freeColorDefs.back());
-            m_freeColorDefs.pop_back();
-        } else {
-            def = std::make_unique<CColorDef>();
-        }
-        def->nPos = nPos;
-        def->crColor = crColor;
-        m_mergedDefs.push_back(std::move(def));
+        m_mergedDefs.push_back(NewColorDef(nPos, crColor));
     };
     m_mergedDefs.clear();
     size_t e = 0;  // the runs there are

@@ -126,6 +126,8 @@ protected:
     void AddColorDef(int nPos, COLORREF crColor);
     // Text colour from nPos on, unless a run already starts there.
     void CloseColorDef(int nPos);
+    // A run not yet placed, taken from the freed ones where there are any.
+    std::unique_ptr<CColorDef> NewColorDef(int nPos, COLORREF crColor);
     // A token coloured from nStart, closed at nEnd.
     struct TokenRun {
         int nStart;
@@ -149,6 +151,11 @@ protected:
     // comment opens (-1 for nowhere), found by rules of the caller's own.
     int FindOpener(const char* pText, int nFrom, int nLineComment, int* pnLength, int* pnKind,
                    std::uint32_t* pnState);
+    // FindOpener with the line comments that the language's rules make
+    // rather than an opener: "rem" at the start, a COBOL comment line or
+    // "*>". Used by the colouring and by the comment-free copy of a line.
+    int FindPartOpener(const char* pText, int nFrom, int* pnLength, int* pnKind,
+                       std::uint32_t* pnState);
     // The state at the end of a line that starts in nState.
     std::uint32_t AdvanceState(CStringExColor* pLine, std::uint32_t nState);
     // "rem" and a blank after leading blanks: a Visual Basic comment line.
@@ -193,7 +200,10 @@ protected:
 
     // --- Drawing and the edit wrappers (TextZoneColorDraw.cpp,
     // TextZoneColorEdit.cpp, TextZoneColorKeys.cpp) ---
-    void DrawMarginMarks(CDC* pDC, DWORD marks, int y, int h);
+    // The selection on a line as two columns (-1 for none) at which the
+    // drawing swaps between selected and plain, and the side it starts on;
+    // false when the line holds no selection.
+    bool LineSelectionBounds(int nLine, int* pA, int* pB, bool* pbStartSelected);
     // Where the drawing walk of a line scrolled to the left can start: the
     // last place at which the walk cuts the text whose text ends left of
     // the rectangle, with its offset in *pdx; 0 for the line's start.

@@ -11,46 +11,6 @@
 #include "platform/ImageList.h"
 #include "platform/Messages.h"
 
-namespace {
-
-int HighestBit(DWORD bits) {
-    int n = -1;
-    for (; bits; bits >>= 1)
-        ++n;
-    return n;
-}
-
-// Dark backgrounds get white text, or the text would vanish into them.
-bool IsDark(COLORREF cr) {
-    return GetRValue(cr) <= 0x80 && GetGValue(cr) <= 0x80 && GetBValue(cr) <= 0x80;
-}
-
-}  // namespace
-
-void CTextZoneColor::DrawMarginMarks(CDC* pDC, DWORD marks, int y, int h) {
-    const int M = GetMarginWidth();
-    // The margin scrolls with the text.
-    const int mx = m_rcText.left - GetHScrollOffset();
-    RECT rcMargin{mx, y, mx + M, y + h};
-    pDC->FillSolidRect(&rcMargin, m_crMargin);
-    CImageList* pImages = GetMarginModeImageList();
-    for (int i = 0; i < 16; ++i) {
-        if (!(marks & (1u << i))) continue;
-        const int image = GetBookmarkImageIndex(i);
-        if (pImages && image >= 0) {
-            ImageList_Draw(pImages, image, pDC, mx, y + h / 4, ILD_NORMAL);
-            continue;
-        }
-        CBrush brush(GetBookmarkColor(i));
-        pDC->SaveDC();
-        pDC->SelectStockObject(BLACK_PEN);
-        pDC->SelectObject(&brush);
-        const int top = y + h / 4 - 1;
-        pDC->RoundRect(mx, top, mx + M, top + h - h / 4, 4, 4);
-        pDC->RestoreDC(-1);
-    }
-}
-
 int CTextZoneColor::FirstVisibleCut(CDC* pDC, const char* p, int n, int x, int A, int B,
                                     bool bStartSelected, int* pdx) {
     // The places where the walk draws what it holds: the selection bounds,
@@ -106,14 +66,11 @@ void CTextZoneColor::DrawTextLine(CDC* pDC, int nLine) {
 
     // A bookmarked line without a margin shows its mark as the background
     // and its text plain, so that the mark stands out.
-    bool bColour = true;
-    COLORREF crBack = m_crBack;
-    COLORREF crText = m_crText;
-    if (!IsMarginMode() && marks) {
-        crBack = GetBookmarkColor(HighestBit(marks));
-        bColour = false;
-    }
-    if (IsDark(crBack)) crText = RGB(255, 255, 255);
+    COLORREF crBack;
+    COLORREF crText;
+    bool bMarked;
+    MarkedLineColors(marks, &crBack, &crText, &bMarked);
+    const bool bColour = !bMarked;
 
     const int M = GetMarginWidth();
     const int x = m_rcText.left + M - GetHScrollOffset();
@@ -129,59 +86,17 @@ void CTextZoneColor::DrawTextLine(CDC* pDC, int nLine) {
     }
     if (IsMarginMode()) DrawMarginMarks(pDC, marks, y, h);
 
-    // Selection bounds on this line: two columns (-1 for none) at which the
-    // drawing swaps between selected and plain, and the side it starts on.
     const bool bBox = m_nSelectionMode == 2;
-    const bool bInSelection = TestSelection() && nLine >= m_nSelStartLine && nLine <= m_nSelEndLine;
     int A = -1;
     int B = -1;
     bool bStartSelected = false;
-    if (bInSelection) {
-        if (bBox) {
-            A = m_nSelStartChar;
-            B = m_nSelEndChar;
-            if (m_nSelStartChar == 0 && m_nSelEndChar > 0) {
-                bStartSelected = true;
-                A = m_nSelEndChar;
-                B = -1;
-            }
-        } else {
-            if (nLine == m_nSelStartLine) {
-                if (m_nSelStartChar == 0)
-                    bStartSelected = true;
-                else
-                    A = m_nSelStartChar;
-            } else {
-                bStartSelected = true;
-            }
-            if (nLine == m_nSelEndLine) (A < 0 ? A : B) = m_nSelEndChar;
-        }
-    }
+    const bool bInSelection = LineSelectionBounds(nLine, &A, &B, &bStartSelected);
 
-    int tabStop = GetTabWidth();
-    if (tabStop < 1) {
-        tabStop = m_nCharWidth * std::abs(tabStop);
-        if (tabStop == 0) tabStop = 20;
-    }
+    int tabStop = TabStopPixels();
 
-    // The text and its runs. Columns of a box line up only on the
-    // space-equivalent text; a free caret's selection may reach beyond the
-    // text, so the text is padded to it. The runs are found on what is drawn.
+    // The text and its runs, the runs found on what is drawn.
     CStringEx padded;
-    CStringEx* pText = pLine;
-    int nPad = -1;
-    if (bInSelection && bBox) {
-        if (pLine) GetSpaceEquivalentLine(&padded, pLine);
-        nPad = m_nSelEndChar + 1;
-    } else if (bInSelection && (m_dwStyle & ZS_FREECARET)) {
-        if (pLine) padded = *pLine;
-        nPad = std::max(m_nSelStartChar, m_nSelEndChar) + 1;
-    }
-    if (nPad >= 0) {
-        if (padded.IsEnded()) padded.discardRight(1);
-        padded.EnsureMinimumLength(nPad);
-        pText = &padded;
-    }
+    CStringEx* pText = TextToDraw(pLine, &padded, bInSelection, bBox);
     if (bColour && pText) DefineColors(nLine, pText);
     const char* p = pText ? pText->c_str() : "";
     const int n = pText ? pText->GetLength() - pText->IsEnded() : 0;
@@ -245,26 +160,33 @@ void CTextZoneColor::DrawTextLine(CDC* pDC, int nLine) {
         if (i == n) flush(i);
     }
 
-    CBrush selBrush(m_crSelBack);
-    if (A >= 0 && A == B) {
-        // A box without width is the box caret: a bar over its column.
-        const int column = x + GetTextWidth(pDC, p, A) - M;
-        RECT bar{column - 1, y, column + 1, y + h};
-        pDC->FillRect(&bar, &selBrush);
-    }
-    if (x - M + dx < right) {
-        RECT rest{x + dx, y, right + M, y + h};
-        pDC->FillRect(&rest, &backBrush);
-    }
-    if (bSelected && !bBox) {
-        // The selection goes on past the text: to the edge, or one
-        // character for the selected line end.
-        if (m_dwStyle & ZS_SELTOEDGE) {
-            RECT block{x + dx, y, right - M, y + h};
-            pDC->FillRect(&block, &selBrush);
-        } else if (pLine && pLine->IsEnded()) {
-            RECT block{x + dx, y, x + dx + m_nCharWidth, y + h};
-            pDC->FillRect(&block, &selBrush);
+    // A box without width is the box caret.
+    DrawLineEnd(pDC, pLine, p, A >= 0 && A == B ? A : -1, x, y, h, dx, bSelected, bBox, crBack);
+}
+
+bool CTextZoneColor::LineSelectionBounds(int nLine, int* pA, int* pB, bool* pbStartSelected) {
+    const bool bInSelection = TestSelection() && nLine >= m_nSelStartLine && nLine <= m_nSelEndLine;
+    if (!bInSelection) return false;
+    int& A = *pA;
+    int& B = *pB;
+    if (m_nSelectionMode == 2) {
+        A = m_nSelStartChar;
+        B = m_nSelEndChar;
+        if (m_nSelStartChar == 0 && m_nSelEndChar > 0) {
+            *pbStartSelected = true;
+            A = m_nSelEndChar;
+            B = -1;
         }
+    } else {
+        if (nLine == m_nSelStartLine) {
+            if (m_nSelStartChar == 0)
+                *pbStartSelected = true;
+            else
+                A = m_nSelStartChar;
+        } else {
+            *pbStartSelected = true;
+        }
+        if (nLine == m_nSelEndLine) (A < 0 ? A : B) = m_nSelEndChar;
     }
+    return true;
 }

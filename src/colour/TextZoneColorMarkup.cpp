@@ -17,18 +17,6 @@ constexpr char kTaken = 10;
 // Directives of server pages: a colour of their own, in no syntax class.
 constexpr COLORREF kDirectiveColor = 0x008080;
 
-int At(const char* pText, const char* p) {
-    return p ? static_cast<int>(p - pText) : -1;
-}
-
-// The earliest of some positions (-1 for none), or -1.
-int Earliest(std::initializer_list<int> positions) {
-    int best = -1;
-    for (int p : positions)
-        if (p >= 0 && (best < 0 || p < best)) best = p;
-    return best;
-}
-
 }  // namespace
 
 std::uint32_t CTextZoneColor::OpenMarkup(const char* pLt) {
@@ -58,19 +46,11 @@ void CTextZoneColor::DefineMarkupColors(const std::string& text, std::uint32_t n
             case MS_SCRIPT_TAG:
             case MS_VBSCRIPT_TAG: {
                 AddColorDef(p, crTag);
-                const int gt = At(t, std::strchr(t + p, '>'));
-                const int dq = At(t, std::strchr(t + p, '"'));
-                const int sq = At(t, std::strchr(t + p, '\''));
-                const int cm = nState == MS_DECLARATION ? At(t, FindHtmlComment(t + p)) : -1;
-                if (nState == MS_TAG && !m_bXml) {
-                    const char* pScript = FindNoCase(t + p, "script");
-                    if (pScript == t + p + 1) {
-                        const char* pLanguage = FindNoCase(pScript, "language");
-                        nState = pLanguage && FindNoCase(pLanguage, "vbscript") ? MS_VBSCRIPT_TAG
-                                                                                : MS_SCRIPT_TAG;
-                    }
-                }
-                const int first = Earliest({gt, dq, sq, cm});
+                const TagSectionStops stops = ScanTagSection(t, p, &nState, m_bXml != 0);
+                const int gt = stops.gt;
+                const int dq = stops.dq;
+                const int cm = stops.cm;
+                const int first = stops.first;
                 if (first < 0) {
                     // The tag goes on in the next line.
                 } else if (first == gt) {
@@ -103,7 +83,7 @@ void CTextZoneColor::DefineMarkupColors(const std::string& text, std::uint32_t n
                 const bool bDouble = nState < MS_SINGLE_VALUE;
                 const char* pClose = std::strchr(t + (p ? p + 1 : 0), bDouble ? '"' : '\'');
                 if (pClose) {
-                    next = At(t, pClose) + 1;
+                    next = OffsetOf(t, pClose) + 1;
                     nNext = MS_TAG + (nState - MS_DOUBLE_VALUE) % 4;
                 }
                 break;
@@ -111,24 +91,24 @@ void CTextZoneColor::DefineMarkupColors(const std::string& text, std::uint32_t n
             case MS_DECL_COMMENT:
                 AddColorDef(p, m_crSyntax[SC_COMMENT - 1]);
                 if (const char* pEnd = std::strstr(t + (p ? p + 2 : 0), "-->")) {
-                    next = At(t, pEnd) + 2;
+                    next = OffsetOf(t, pEnd) + 2;
                     nNext = MS_DECLARATION;
                 }
                 break;
             case MS_SERVER_COMMENT:
                 AddColorDef(p, m_crSyntax[SC_COMMENT - 1]);
-                if (const char* pEnd = std::strstr(t + p, "%>")) next = At(t, pEnd) + 2;
+                if (const char* pEnd = std::strstr(t + p, "%>")) next = OffsetOf(t, pEnd) + 2;
                 break;
             case MS_PROCESSING:
                 AddColorDef(p, crTag);
                 if (const char* pEnd = std::strstr(t + (p ? p + 2 : 0), "?>"))
-                    next = At(t, pEnd) + 2;
+                    next = OffsetOf(t, pEnd) + 2;
                 break;
             case MS_SCRIPT:
             case MS_VBSCRIPT: {
                 AddColorDef(p, m_crRunText);
-                const int e = At(t, FindScriptEnd(t + p));
-                const int s = At(t, std::strstr(t + p, "<%"));
+                const int e = OffsetOf(t, FindScriptEnd(t + p));
+                const int s = OffsetOf(t, std::strstr(t + p, "<%"));
                 const std::uint32_t nType = nEmbedded ? nEmbedded : LS_PLAIN;
                 const bool bJava = nState == MS_SCRIPT;
                 if (e >= 0 && (s < 0 || e < s)) {
@@ -150,7 +130,7 @@ void CTextZoneColor::DefineMarkupColors(const std::string& text, std::uint32_t n
             case MS_DIRECTIVE:
                 if (m_bServerPage && nState == MS_DIRECTIVE) {
                     AddColorDef(p, kDirectiveColor);
-                    if (const char* pEnd = std::strstr(t + p, "%>")) next = At(t, pEnd) + 2;
+                    if (const char* pEnd = std::strstr(t + p, "%>")) next = OffsetOf(t, pEnd) + 2;
                 } else if (m_bServerPage && nState == MS_SERVER &&
                            std::strncmp(t + p, "<%--", 4) == 0) {
                     AddColorDef(p, m_crSyntax[SC_COMMENT - 1]);
@@ -165,7 +145,7 @@ void CTextZoneColor::DefineMarkupColors(const std::string& text, std::uint32_t n
                     AddColorDef(p, m_crRunText);
                     const std::uint32_t nType = nEmbedded ? nEmbedded : LS_PLAIN;
                     const char* pEnd = std::strstr(t + p, "%>");
-                    const int end = pEnd ? At(t, pEnd) : n;
+                    const int end = pEnd ? OffsetOf(t, pEnd) : n;
                     if (end != p || !pEnd)
                         ColorEmbeddedPiece(text, p, end, nType, m_bServerScriptJava != 0);
                     if (pEnd) {
@@ -180,8 +160,8 @@ void CTextZoneColor::DefineMarkupColors(const std::string& text, std::uint32_t n
             default: {  // MS_TEXT, and any value that is no markup state
                 AddColorDef(p, m_crRunText);
                 const char* pLt = std::strchr(t + p, '<');
-                if (pLt && (nNext = OpenMarkup(pLt)) != 0) next = At(t, pLt);
-                MarkupEntityPass(text, p, pLt ? At(t, pLt) : n);
+                if (pLt && (nNext = OpenMarkup(pLt)) != 0) next = OffsetOf(t, pLt);
+                MarkupEntityPass(text, p, pLt ? OffsetOf(t, pLt) : n);
                 break;
             }
         }
@@ -200,7 +180,7 @@ void CTextZoneColor::MarkupEntityPass(const std::string& text, int nFrom, int nT
     for (const char* const* ppWord = szKeyWordHTM_En; (*ppWord)[0]; ++ppWord) {
         const size_t nLength = std::strlen(*ppWord);
         for (const char* p = copy.c_str(); (p = std::strstr(p, *ppWord)) != nullptr;) {
-            const int at = At(copy.c_str(), p);
+            const int at = OffsetOf(copy.c_str(), p);
             int end = at + static_cast<int>(nLength);
             while (copy[static_cast<size_t>(end)] == ' ' || copy[static_cast<size_t>(end)] == '\t')
                 ++end;

@@ -16,21 +16,6 @@
 #include "colour/MarkupStates.h"
 #include "colour/TextZoneColor.h"
 
-namespace {
-
-int At(const char* pText, const char* p) {
-    return p ? static_cast<int>(p - pText) : -1;
-}
-
-int Earliest(std::initializer_list<int> positions) {
-    int best = -1;
-    for (int p : positions)
-        if (p >= 0 && (best < 0 || p < best)) best = p;
-    return best;
-}
-
-}  // namespace
-
 std::uint32_t CTextZoneColor::AdvanceMarkupState(const char* t, std::uint32_t nStart) {
     std::uint32_t nState = MarkupPart(nStart);
     std::uint32_t nEmbedded = EmbeddedPart(nStart);
@@ -47,19 +32,11 @@ std::uint32_t CTextZoneColor::AdvanceMarkupState(const char* t, std::uint32_t nS
             case MS_DECLARATION:
             case MS_SCRIPT_TAG:
             case MS_VBSCRIPT_TAG: {
-                const int gt = At(t, std::strchr(t + p, '>'));
-                const int dq = At(t, std::strchr(t + p, '"'));
-                const int sq = At(t, std::strchr(t + p, '\''));
-                const int cm = nState == MS_DECLARATION ? At(t, FindHtmlComment(t + p)) : -1;
-                if (nState == MS_TAG && !m_bXml) {
-                    const char* pScript = FindNoCase(t + p, "script");
-                    if (pScript == t + p + 1) {
-                        const char* pLanguage = FindNoCase(pScript, "language");
-                        nState = pLanguage && FindNoCase(pLanguage, "vbscript") ? MS_VBSCRIPT_TAG
-                                                                                : MS_SCRIPT_TAG;
-                    }
-                }
-                const int first = Earliest({gt, dq, sq, cm});
+                const TagSectionStops stops = ScanTagSection(t, p, &nState, m_bXml != 0);
+                const int gt = stops.gt;
+                const int dq = stops.dq;
+                const int cm = stops.cm;
+                const int first = stops.first;
                 if (first < 0) return nState;
                 if (first == gt) {
                     p = gt + 1;
@@ -69,12 +46,12 @@ std::uint32_t CTextZoneColor::AdvanceMarkupState(const char* t, std::uint32_t nS
                 } else if (first == cm) {
                     const char* pEnd = std::strstr(t + cm + 2, "-->");
                     if (!pEnd) return MS_DECL_COMMENT;
-                    p = At(t, pEnd) + 2;
+                    p = OffsetOf(t, pEnd) + 2;
                 } else {
                     const char* pClose = std::strchr(t + first + 1, t[first]);
                     if (!pClose)
                         return (first == dq ? MS_DOUBLE_VALUE : MS_SINGLE_VALUE) + nState - MS_TAG;
-                    p = At(t, pClose) + 1;
+                    p = OffsetOf(t, pClose) + 1;
                 }
                 break;
             }
@@ -89,7 +66,7 @@ std::uint32_t CTextZoneColor::AdvanceMarkupState(const char* t, std::uint32_t nS
                 const bool bDouble = nState < MS_SINGLE_VALUE;
                 const char* pClose = std::strchr(t + (p ? p + 1 : 0), bDouble ? '"' : '\'');
                 if (!pClose) return nState;
-                p = At(t, pClose) + 1;
+                p = OffsetOf(t, pClose) + 1;
                 // Back to a declaration from its values, to a plain tag from
                 // all others: SCRIPT tags included.
                 nState = nState == MS_DOUBLE_VALUE + 1 || nState == MS_SINGLE_VALUE + 1
@@ -100,28 +77,28 @@ std::uint32_t CTextZoneColor::AdvanceMarkupState(const char* t, std::uint32_t nS
             case MS_DECL_COMMENT: {
                 const char* pEnd = std::strstr(t + (p ? p + 2 : 0), "-->");
                 if (!pEnd) return nState;
-                p = At(t, pEnd) + 2;
+                p = OffsetOf(t, pEnd) + 2;
                 nState = MS_DECLARATION;
                 break;
             }
             case MS_SERVER_COMMENT: {
                 const char* pEnd = std::strstr(t + p, "%>");
                 if (!pEnd) return nState;
-                p = At(t, pEnd) + 2;
+                p = OffsetOf(t, pEnd) + 2;
                 nState = MS_TEXT;
                 break;
             }
             case MS_PROCESSING: {
                 const char* pEnd = std::strstr(t + (p ? p + 2 : 0), "?>");
                 if (!pEnd) return nState;
-                p = At(t, pEnd) + 2;
+                p = OffsetOf(t, pEnd) + 2;
                 nState = MS_TEXT;
                 break;
             }
             case MS_SCRIPT:
             case MS_VBSCRIPT: {
-                const int e = At(t, FindScriptEnd(t + p));
-                const int s = At(t, std::strstr(t + p, "<%"));
+                const int e = OffsetOf(t, FindScriptEnd(t + p));
+                const int s = OffsetOf(t, std::strstr(t + p, "<%"));
                 if (e >= 0 && (s < 0 || e < s)) {
                     p = e;
                     nState = MS_TAG;
@@ -147,7 +124,7 @@ std::uint32_t CTextZoneColor::AdvanceMarkupState(const char* t, std::uint32_t nS
                     if (m_bServerPage && nState == MS_DIRECTIVE) return nState;
                     return endInScript(p, m_bServerScriptJava != 0);
                 }
-                p = At(t, pEnd) + 2;
+                p = OffsetOf(t, pEnd) + 2;
                 nState = nState == MS_SERVER_IN_SCRIPT     ? MS_SCRIPT
                          : nState == MS_SERVER_IN_VBSCRIPT ? MS_VBSCRIPT
                                                            : MS_TEXT;
@@ -160,13 +137,13 @@ std::uint32_t CTextZoneColor::AdvanceMarkupState(const char* t, std::uint32_t nS
                 if (nOpened == MS_PROCESSING || nOpened == MS_SERVER || nOpened == MS_DIRECTIVE) {
                     const char* pEnd = std::strstr(pLt + 1, nOpened == MS_PROCESSING ? "?>" : "%>");
                     if (pEnd) {
-                        p = At(t, pEnd) + 2;
+                        p = OffsetOf(t, pEnd) + 2;
                         nState = MS_TEXT;
                     } else {
                         nState = nOpened;  // from the old position: see above
                     }
                 } else {
-                    p = At(t, pLt);
+                    p = OffsetOf(t, pLt);
                     nState = nOpened;
                 }
                 break;

@@ -92,25 +92,10 @@ void CTextZoneColor::TokenPass(std::string& text) {
     int from = 0;
     for (;;) {
         const char* t = text.c_str();
-        // A line comment found by the rules of the language rather than by
-        // its opener: "rem" at the start, or a COBOL comment line.
-        int nLineComment = -2;
-        if (m_bQuoteComment) {
-            if (StartsWithRem(t)) nLineComment = 0;
-        } else if (m_bCobolComment) {
-            if (t[0] == '*' || t[0] == '/' || std::strncmp(t, "      *", 7) == 0) {
-                nLineComment = 0;
-            } else {
-                const char* q = std::strstr(t + from, "*>");
-                nLineComment = q ? static_cast<int>(q - t) : -1;
-            }
-        }
-        if (nLineComment >= 0 && nLineComment < from) nLineComment = -1;
-
         int nLength = 0;
         int nKind = 0;
         std::uint32_t nState = LS_PLAIN;
-        const int at = FindOpener(t, from, nLineComment, &nLength, &nKind, &nState);
+        const int at = FindPartOpener(t, from, &nLength, &nKind, &nState);
         if (at < 0) return;
 
         COLORREF crColor = m_crSyntax[SC_STRING - 1];
@@ -133,6 +118,25 @@ void CTextZoneColor::TokenPass(std::string& text) {
         Overwrite(text, at, end);
         from = end;
     }
+}
+
+int CTextZoneColor::FindPartOpener(const char* t, int from, int* pnLength, int* pnKind,
+                                   std::uint32_t* pnState) {
+    // A line comment found by the rules of the language rather than by its
+    // opener: "rem" at the start, or a COBOL comment line.
+    int nLineComment = -2;
+    if (m_bQuoteComment) {
+        if (StartsWithRem(t)) nLineComment = 0;
+    } else if (m_bCobolComment) {
+        if (t[0] == '*' || t[0] == '/' || std::strncmp(t, "      *", 7) == 0) {
+            nLineComment = 0;
+        } else {
+            const char* q = std::strstr(t + from, "*>");
+            nLineComment = q ? static_cast<int>(q - t) : -1;
+        }
+    }
+    if (nLineComment >= 0 && nLineComment < from) nLineComment = -1;
+    return FindOpener(t, from, nLineComment, pnLength, pnKind, pnState);
 }
 
 void CTextZoneColor::KeywordPass(std::string& text, const char* const* const* ppTables, int nTables,

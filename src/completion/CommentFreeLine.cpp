@@ -68,23 +68,10 @@ void CTextZoneColor::GetCommentAndStringFreeLine(CStringEx* pOut, int nLine, int
 
     while (from < n) {
         const char* t = work.c_str();
-        int nLineComment = -2;
-        if (m_bQuoteComment) {
-            if (StartsWithRem(t)) nLineComment = 0;
-        } else if (m_bCobolComment) {
-            if (t[0] == '*' || t[0] == '/' || std::strncmp(t, "      *", 7) == 0) {
-                nLineComment = 0;
-            } else {
-                const char* q = std::strstr(t + from, "*>");
-                nLineComment = q ? static_cast<int>(q - t) : -1;
-            }
-        }
-        if (nLineComment >= 0 && nLineComment < from) nLineComment = -1;
-
         int nLength = 0;
         int nKind = 0;
         std::uint32_t s = LS_PLAIN;
-        const int at = FindOpener(t, from, nLineComment, &nLength, &nKind, &s);
+        const int at = FindPartOpener(t, from, &nLength, &nKind, &s);
         if (at < 0) break;
         const std::uint32_t nOpened =
             nKind == OPENER_BLOCK || nKind == OPENER_LINE ? LS_COMMENT : s;

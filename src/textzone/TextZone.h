@@ -287,6 +287,23 @@ protected:
     // beyond its text.
     int BoxX(CDC* pDC, const CStringEx& line, int nCount);
 
+    // Pieces of a line's drawing that every kind of zone shares
+    // (TextZoneDrawLine.cpp).
+    // The background and text colours of a line with these bookmarks;
+    // *pbMarked when a bookmark took the background, there being no margin.
+    void MarkedLineColors(DWORD marks, COLORREF* pcrBack, COLORREF* pcrText, bool* pbMarked);
+    void DrawMarginMarks(CDC* pDC, DWORD marks, int y, int h);
+    // Pixels from one tab stop to the next.
+    int TabStopPixels();
+    // What a line is drawn from: the line itself, or, in a box or a free
+    // caret's selection, a copy in *pPadded padded out to the selection.
+    CStringEx* TextToDraw(CStringEx* pLine, CStringEx* pPadded, bool bInSelection, bool bBox);
+    // What follows the text drawn up to x + dx: the box caret's bar over
+    // byte nBar (-1 for none), the rest of the row, and a selection that
+    // goes on past the text.
+    void DrawLineEnd(CDC* pDC, const CStringEx* pLine, const char* p, int nBar, int x, int y, int h,
+                     int dx, bool bSelected, bool bBox, COLORREF crBack);
+
     // Scrolling and painting helpers.
     // Moves the pixels of the text rectangle, re-invalidating pending paints
     // at their moved place and what the move uncovers.

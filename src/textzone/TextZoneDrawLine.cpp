@@ -36,10 +36,10 @@ void CTextZone::DrawTextLine(CDC* pDC, int nLine) {
     const bool bEmptyPlace = !pLine && (nLine <= 0 || !GetLine(nLine - 1));
     const DWORD marks = pLine ? (pLine->m_dwBookmarks & 0xFFFF) : 0;
 
-    COLORREF crBack = m_crBack;
-    COLORREF crText = m_crText;
-    if (!IsMarginMode() && marks) crBack = GetBookmarkColor(HighestBit(marks));
-    if (IsDark(crBack)) crText = RGB(255, 255, 255);
+    COLORREF crBack;
+    COLORREF crText;
+    bool bMarked;
+    MarkedLineColors(marks, &crBack, &crText, &bMarked);
 
     const int M = GetMarginWidth();
     const int x = m_rcText.left + M - GetHScrollOffset();
@@ -54,28 +54,7 @@ void CTextZone::DrawTextLine(CDC* pDC, int nLine) {
         return;
     }
 
-    if (IsMarginMode()) {
-        // The margin scrolls with the text.
-        const int mx = m_rcText.left - GetHScrollOffset();
-        RECT rcMargin{mx, y, mx + M, y + h};
-        pDC->FillSolidRect(&rcMargin, m_crMargin);
-        CImageList* pImages = GetMarginModeImageList();
-        for (int i = 0; i < 16; ++i) {
-            if (!(marks & (1u << i))) continue;
-            int image = GetBookmarkImageIndex(i);
-            if (pImages && image >= 0) {
-                ImageList_Draw(pImages, image, pDC, mx, y + h / 4, ILD_NORMAL);
-                continue;
-            }
-            CBrush brush(GetBookmarkColor(i));
-            pDC->SaveDC();
-            pDC->SelectStockObject(BLACK_PEN);
-            pDC->SelectObject(&brush);
-            int top = y + h / 4 - 1;
-            pDC->RoundRect(mx, top, mx + M, top + h - h / 4, 4, 4);
-            pDC->RestoreDC(-1);
-        }
-    }
+    if (IsMarginMode()) DrawMarginMarks(pDC, marks, y, h);
 
     // Where the selection starts and stops on this line: two boundaries
     // (-1 for none) and whether the line begins selected.
@@ -108,30 +87,11 @@ void CTextZone::DrawTextLine(CDC* pDC, int nLine) {
         }
     }
 
-    int tabStop = GetTabWidth();
-    if (tabStop < 1) {
-        tabStop = m_nCharWidth * std::abs(tabStop);
-        if (tabStop == 0) tabStop = 20;
-    }
+    int tabStop = TabStopPixels();
 
-    // The bytes to draw, without the line end. Columns of a box line up only
-    // on the space-equivalent text; a free caret's selection may reach
-    // beyond the text, so the text is padded to it.
+    // The bytes to draw, without the line end.
     CStringEx padded;
-    const CStringEx* pText = pLine;
-    int nPad = -1;
-    if (bInSelection && bBox) {
-        if (pLine) GetSpaceEquivalentLine(&padded, pLine);
-        nPad = m_nSelEndChar + 1;
-    } else if (bInSelection && (m_dwStyle & ZS_FREECARET)) {
-        if (pLine) padded = *pLine;
-        nPad = std::max(m_nSelStartChar, m_nSelEndChar) + 1;
-    }
-    if (nPad >= 0) {
-        if (padded.IsEnded()) padded.discardRight(1);
-        padded.EnsureMinimumLength(nPad);
-        pText = &padded;
-    }
+    const CStringEx* pText = TextToDraw(pLine, &padded, bInSelection, bBox);
     const char* p = pText ? pText->c_str() : "";
     const int n = pText ? pText->GetLength() - pText->IsEnded() : 0;
 
@@ -156,14 +116,84 @@ void CTextZone::DrawTextLine(CDC* pDC, int nLine) {
         pos = end;
     }
 
+    // A box without width is the box caret.
+    const int nBar = bBox && b1 >= 0 && b1 == b2 ? b1 : -1;
+    DrawLineEnd(pDC, pLine, p, nBar, x, y, h, dx, bSelected, bBox, crBack);
+}
+
+void CTextZone::MarkedLineColors(DWORD marks, COLORREF* pcrBack, COLORREF* pcrText,
+                                 bool* pbMarked) {
+    *pcrBack = m_crBack;
+    *pcrText = m_crText;
+    *pbMarked = !IsMarginMode() && marks;
+    if (*pbMarked) *pcrBack = GetBookmarkColor(HighestBit(marks));
+    if (IsDark(*pcrBack)) *pcrText = RGB(255, 255, 255);
+}
+
+void CTextZone::DrawMarginMarks(CDC* pDC, DWORD marks, int y, int h) {
+    const int M = GetMarginWidth();
+    // The margin scrolls with the text.
+    const int mx = m_rcText.left - GetHScrollOffset();
+    RECT rcMargin{mx, y, mx + M, y + h};
+    pDC->FillSolidRect(&rcMargin, m_crMargin);
+    CImageList* pImages = GetMarginModeImageList();
+    for (int i = 0; i < 16; ++i) {
+        if (!(marks & (1u << i))) continue;
+        const int image = GetBookmarkImageIndex(i);
+        if (pImages && image >= 0) {
+            ImageList_Draw(pImages, image, pDC, mx, y + h / 4, ILD_NORMAL);
+            continue;
+        }
+        CBrush brush(GetBookmarkColor(i));
+        pDC->SaveDC();
+        pDC->SelectStockObject(BLACK_PEN);
+        pDC->SelectObject(&brush);
+        const int top = y + h / 4 - 1;
+        pDC->RoundRect(mx, top, mx + M, top + h - h / 4, 4, 4);
+        pDC->RestoreDC(-1);
+    }
+}
+
+int CTextZone::TabStopPixels() {
+    int tabStop = GetTabWidth();
+    if (tabStop < 1) {
+        tabStop = m_nCharWidth * std::abs(tabStop);
+        if (tabStop == 0) tabStop = 20;
+    }
+    return tabStop;
+}
+
+CStringEx* CTextZone::TextToDraw(CStringEx* pLine, CStringEx* pPadded, bool bInSelection,
+                                 bool bBox) {
+    // Columns of a box line up only on the space-equivalent text; a free
+    // caret's selection may reach beyond the text, so the text is padded to
+    // it.
+    int nPad = -1;
+    if (bInSelection && bBox) {
+        if (pLine) GetSpaceEquivalentLine(pPadded, pLine);
+        nPad = m_nSelEndChar + 1;
+    } else if (bInSelection && (m_dwStyle & ZS_FREECARET)) {
+        if (pLine) *pPadded = *pLine;
+        nPad = std::max(m_nSelStartChar, m_nSelEndChar) + 1;
+    }
+    if (nPad < 0) return pLine;
+    if (pPadded->IsEnded()) pPadded->discardRight(1);
+    pPadded->EnsureMinimumLength(nPad);
+    return pPadded;
+}
+
+void CTextZone::DrawLineEnd(CDC* pDC, const CStringEx* pLine, const char* p, int nBar, int x, int y,
+                            int h, int dx, bool bSelected, bool bBox, COLORREF crBack) {
+    const int M = GetMarginWidth();
+    const int right = m_rcText.right;
     CBrush selBrush(m_crSelBack);
-    if (bBox && b1 >= 0 && b1 == b2) {
-        // A box without width is the box caret: a bar over its column.
-        int column = x + GetTextWidth(pDC, p, b1) - M;
+    if (nBar >= 0) {
+        const int column = x + GetTextWidth(pDC, p, nBar) - M;
         RECT bar{column - 1, y, column + 1, y + h};
         pDC->FillRect(&bar, &selBrush);
     }
     if (x - M + dx < right) {
+        CBrush backBrush(crBack);
         RECT rest{x + dx, y, right + M, y + h};
         pDC->FillRect(&rest, &backBrush);
     }

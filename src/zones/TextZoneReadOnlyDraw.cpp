@@ -27,32 +27,11 @@ COLORREF LinkMarks(unsigned int nKind) {
     }
 }
 
-int HighestBit(DWORD bits) {
-    int n = -1;
-    for (; bits; bits >>= 1)
-        ++n;
-    return n;
-}
-
-// Dark backgrounds get white text, or the text would vanish into them.
-bool IsDark(COLORREF cr) {
-    return GetRValue(cr) <= 0x80 && GetGValue(cr) <= 0x80 && GetBValue(cr) <= 0x80;
-}
-
 }  // namespace
 
 CColorDef* CTextZoneReadOnly::InsertRun(size_t nAt, int nPos, COLORREF crWord) {
-    std::unique_ptr<CColorDef> def;
-    if (!m_freeColorDefs.empty()) {
-        def = std::move(m_freeColorDefs.back());
-        m_freeColorDefs.pop_back();
-    } else {
-        def = std::make_unique<CColorDef>();
-    }
-    def->nPos = nPos;
-    def->crColor = crWord;
-    auto it =
-        m_colorDefs.insert(m_colorDefs.begin() + static_cast<std::ptrdiff_t>(nAt), std::move(def));
+    auto it = m_colorDefs.insert(m_colorDefs.begin() + static_cast<std::ptrdiff_t>(nAt),
+                                 NewColorDef(nPos, crWord));
     return it->get();
 }
 
@@ -134,17 +113,14 @@ void CTextZoneReadOnly::DrawTextLine(CDC* pDC, int nLine) {
     const bool bEmptyPlace = !pLine && (nLine <= 0 || !GetLine(nLine - 1));
     const DWORD marks = pLine ? (pLine->m_dwBookmarks & 0xFFFF) : 0;
 
-    COLORREF crText = m_crText;
-    COLORREF crBack = m_crBack;
-    bool bColour = true;
+    COLORREF crText;
+    COLORREF crBack;
+    bool bMarked;
     bool bPastel = pMarked && (pMarked->m_nPastelStart || pMarked->m_nPastelEnd);
     // Outside margin mode a marked line (a line with help among them) shows
     // its mark as the background, without syntax colours.
-    if (!IsMarginMode() && marks) {
-        crBack = GetBookmarkColor(HighestBit(marks));
-        bColour = false;
-    }
-    if (IsDark(crBack)) crText = RGB(255, 255, 255);
+    MarkedLineColors(marks, &crBack, &crText, &bMarked);
+    const bool bColour = !bMarked;
     // A line colour takes all the text. The runs are still made, for the
     // links on the line keep their fonts and backgrounds; only their text
     // colour gives way.
@@ -168,60 +144,21 @@ void CTextZoneReadOnly::DrawTextLine(CDC* pDC, int nLine) {
     }
     if (IsMarginMode()) DrawMarginMarks(pDC, marks, y, h);
 
-    // Selection bounds on this line, as the coloured zone draws them.
     const bool bBox = m_nSelectionMode == 2;
-    const bool bInSelection = TestSelection() && nLine >= m_nSelStartLine && nLine <= m_nSelEndLine;
     int A = -1;
     int B = -1;
     bool bSelected = false;
-    if (bInSelection) {
-        if (bBox) {
-            A = m_nSelStartChar;
-            B = m_nSelEndChar;
-            if (m_nSelStartChar == 0 && m_nSelEndChar > 0) {
-                bSelected = true;
-                A = m_nSelEndChar;
-                B = -1;
-            }
-        } else {
-            if (nLine == m_nSelStartLine) {
-                if (m_nSelStartChar == 0)
-                    bSelected = true;
-                else
-                    A = m_nSelStartChar;
-            } else {
-                bSelected = true;
-            }
-            if (nLine == m_nSelEndLine) (A < 0 ? A : B) = m_nSelEndChar;
-        }
-    }
+    const bool bInSelection = LineSelectionBounds(nLine, &A, &B, &bSelected);
     COLORREF crSelText = m_crSelText;
     if (bPastel) {
         crText = Pastel(crText);
         crSelText = Pastel(crSelText);
     }
 
-    int tabStop = GetTabWidth();
-    if (tabStop < 1) {
-        tabStop = m_nCharWidth * std::abs(tabStop);
-        if (tabStop == 0) tabStop = 20;
-    }
+    int tabStop = TabStopPixels();
 
     CStringEx padded;
-    CStringEx* pText = pLine;
-    int nPad = -1;
-    if (bInSelection && bBox) {
-        if (pLine) GetSpaceEquivalentLine(&padded, pLine);
-        nPad = m_nSelEndChar + 1;
-    } else if (bInSelection && (m_dwStyle & ZS_FREECARET)) {
-        if (pLine) padded = *pLine;
-        nPad = std::max(m_nSelStartChar, m_nSelEndChar) + 1;
-    }
-    if (nPad >= 0) {
-        if (padded.IsEnded()) padded.discardRight(1);
-        padded.EnsureMinimumLength(nPad);
-        pText = &padded;
-    }
+    CStringEx* pText = TextToDraw(pLine, &padded, bInSelection, bBox);
     // In a box selection the marks give way to the selection.
     if (bInSelection && bBox && pText)
         CTextZoneColor::DefineColors(nLine, pText);
@@ -287,23 +224,5 @@ void CTextZoneReadOnly::DrawTextLine(CDC* pDC, int nLine) {
     }
     pDC->SelectObject(hNormal);
 
-    CBrush selBrush(m_crSelBack);
-    if (A >= 0 && A == B) {
-        const int column = x + GetTextWidth(pDC, p, A) - M;
-        RECT bar{column - 1, y, column + 1, y + h};
-        pDC->FillRect(&bar, &selBrush);
-    }
-    if (x - M + dx < right) {
-        RECT rest{x + dx, y, right + M, y + h};
-        pDC->FillRect(&rest, &backBrush);
-    }
-    if (bSelected && !bBox) {
-        if (m_dwStyle & ZS_SELTOEDGE) {
-            RECT block{x + dx, y, right - M, y + h};
-            pDC->FillRect(&block, &selBrush);
-        } else if (pLine && pLine->IsEnded()) {
-            RECT block{x + dx, y, x + dx + m_nCharWidth, y + h};
-            pDC->FillRect(&block, &selBrush);
-        }
-    }
+    DrawLineEnd(pDC, pLine, p, A >= 0 && A == B ? A : -1, x, y, h, dx, bSelected, bBox, crBack);
 }
