@@ -25,6 +25,8 @@ CDemoWindow::CDemoWindow(QWidget* pParent)
     pSplitter->addWidget(m_pReport);
     pSplitter->setStretchFactor(0, 3);
     pSplitter->setStretchFactor(1, 1);
+    // The stretch factors only share out later growth; start the editor at three quarters too.
+    pSplitter->setSizes({3000, 1000});
     setCentralWidget(pSplitter);
     // A link in the report puts the caret on its place in the editor.
     m_pReport->SetOpenHandler([this](int nLine, int nChar) {

@@ -69,7 +69,8 @@ void CReportPane::ShowMatches(const QString& title, CTextZone& source, const std
     }
 
     std::string report = title.toStdString() + ": " + std::to_string(matches.size()) +
-                         " lines with \"" + word + "\"\r\n";
+                         (matches.size() == 1 ? " line" : " lines") + " with \"" + word +
+                         "\"\r\n";
     for (const Match& m : matches) {
         std::string line = m.line.size() > 120 ? m.line.substr(0, 120) : m.line;
         for (char& c : line)
