@@ -10,11 +10,11 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <chrono>
 #include <cstring>
 #include <memory>
 #include <string>
 
+#include "QtBenchWidgets.h"
 #include "SqlText.h"
 #include "editor/qt/QtEditorWidget.h"
 #include "platform/qt/QtPlatform.h"
@@ -22,19 +22,13 @@
 
 namespace {
 
-constexpr int kWidth = 800;
-constexpr int kHeight = 600;
-constexpr int kFontPixels = 15;
+using bench::kFontPixels;
+using bench::kHeight;
+using bench::kWidth;
+using bench::Seconds;
+using bench::Settle;
+
 constexpr unsigned int kTransactSql90 = 14;
-
-template <class F>
-double Seconds(F&& f) {
-    const auto t0 = std::chrono::steady_clock::now();
-    f();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count();
-}
-
-void Settle() { QCoreApplication::processEvents(); }
 
 void SendKey(QWidget* pWidget, int key, const QString& text) {
     QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
