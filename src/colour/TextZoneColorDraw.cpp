@@ -72,19 +72,12 @@ void CTextZoneColor::DrawTextLine(CDC* pDC, int nLine) {
     MarkedLineColors(marks, &crBack, &crText, &bMarked);
     const bool bColour = !bMarked;
 
-    const int M = GetMarginWidth();
-    const int x = m_rcText.left + M - GetHScrollOffset();
-    const int y = m_rcText.top - GetVScrollOffset() + GetLinePosition(nLine);
-    const int h = GetLineHeight(nLine);
-    const int right = m_rcText.right;
-
-    CBrush backBrush(crBack);
-    if (bEmptyPlace) {
-        RECT rc{x - M, y, right + M, y + h};
-        pDC->FillRect(&rc, &backBrush);
-        return;
-    }
-    if (IsMarginMode()) DrawMarginMarks(pDC, marks, y, h);
+    LineFrame frame;
+    if (!BeginLineFrame(pDC, nLine, marks, crBack, bEmptyPlace, &frame)) return;
+    const int M = frame.M;
+    const int x = frame.x;
+    const int y = frame.y;
+    const int h = frame.h;
 
     const bool bBox = m_nSelectionMode == 2;
     int A = -1;

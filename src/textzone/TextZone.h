@@ -293,6 +293,15 @@ protected:
     // *pbMarked when a bookmark took the background, there being no margin.
     void MarkedLineColors(DWORD marks, COLORREF* pcrBack, COLORREF* pcrText, bool* pbMarked);
     void DrawMarginMarks(CDC* pDC, DWORD marks, int y, int h);
+    // Where a line's row lies: the margin's width, the text's x, the row's
+    // top and height, the text rectangle's right edge.
+    struct LineFrame {
+        int M, x, y, h, right;
+    };
+    // Lays out line nLine's row and draws its margin marks; for the place
+    // behind the phantom line it fills the row with crBack and gives false.
+    bool BeginLineFrame(CDC* pDC, int nLine, DWORD marks, COLORREF crBack, bool bEmptyPlace,
+                        LineFrame* pFrame);
     // Pixels from one tab stop to the next.
     int TabStopPixels();
     // What a line is drawn from: the line itself, or, in a box or a free

@@ -41,20 +41,12 @@ void CTextZone::DrawTextLine(CDC* pDC, int nLine) {
     bool bMarked;
     MarkedLineColors(marks, &crBack, &crText, &bMarked);
 
-    const int M = GetMarginWidth();
-    const int x = m_rcText.left + M - GetHScrollOffset();
-    const int y = m_rcText.top - GetVScrollOffset() + GetLinePosition(nLine);
-    const int h = GetLineHeight(nLine);
-    const int right = m_rcText.right;
-
-    CBrush backBrush(crBack);
-    if (bEmptyPlace) {
-        RECT rc{x - M, y, right + M, y + h};
-        pDC->FillRect(&rc, &backBrush);
-        return;
-    }
-
-    if (IsMarginMode()) DrawMarginMarks(pDC, marks, y, h);
+    LineFrame frame;
+    if (!BeginLineFrame(pDC, nLine, marks, crBack, bEmptyPlace, &frame)) return;
+    const int M = frame.M;
+    const int x = frame.x;
+    const int y = frame.y;
+    const int h = frame.h;
 
     // Where the selection starts and stops on this line: two boundaries
     // (-1 for none) and whether the line begins selected.
@@ -128,6 +120,24 @@ void CTextZone::MarkedLineColors(DWORD marks, COLORREF* pcrBack, COLORREF* pcrTe
     *pbMarked = !IsMarginMode() && marks;
     if (*pbMarked) *pcrBack = GetBookmarkColor(HighestBit(marks));
     if (IsDark(*pcrBack)) *pcrText = RGB(255, 255, 255);
+}
+
+bool CTextZone::BeginLineFrame(CDC* pDC, int nLine, DWORD marks, COLORREF crBack,
+                               bool bEmptyPlace, LineFrame* pFrame) {
+    LineFrame& f = *pFrame;
+    f.M = GetMarginWidth();
+    f.x = m_rcText.left + f.M - GetHScrollOffset();
+    f.y = m_rcText.top - GetVScrollOffset() + GetLinePosition(nLine);
+    f.h = GetLineHeight(nLine);
+    f.right = m_rcText.right;
+    if (bEmptyPlace) {
+        CBrush backBrush(crBack);
+        RECT rc{f.x - f.M, f.y, f.right + f.M, f.y + f.h};
+        pDC->FillRect(&rc, &backBrush);
+        return false;
+    }
+    if (IsMarginMode()) DrawMarginMarks(pDC, marks, f.y, f.h);
+    return true;
 }
 
 void CTextZone::DrawMarginMarks(CDC* pDC, DWORD marks, int y, int h) {
