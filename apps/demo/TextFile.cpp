@@ -40,16 +40,19 @@ long long ZoneLinesOf(long long nBytes, long long nMaxLineBytes) {
 
 CTextFile::CTextFile() = default;
 
-CTextFile::CTextFile(std::string_view bytes) {
-    Analyse(bytes, SLimits());
+CTextFile::CTextFile(std::string_view bytes) : m_strZoneText(bytes) {
+    Analyse(SLimits());
 }
 
-CTextFile::CTextFile(std::string_view bytes, const SLimits& limits) {
-    Analyse(bytes, limits);
+CTextFile::CTextFile(std::string&& bytes) : m_strZoneText(std::move(bytes)) {
+    Analyse(SLimits());
 }
 
-void CTextFile::Analyse(std::string_view bytes, const SLimits& limits) {
-    m_strZoneText.assign(bytes.data(), bytes.size());
+CTextFile::CTextFile(std::string_view bytes, const SLimits& limits) : m_strZoneText(bytes) {
+    Analyse(limits);
+}
+
+void CTextFile::Analyse(const SLimits& limits) {
     char* text = m_strZoneText.data();
     const size_t n = m_strZoneText.size();
 
@@ -61,33 +64,44 @@ void CTextFile::Analyse(std::string_view bytes, const SLimits& limits) {
     long long nOtherLine = 0;
     ELineEnd eOther = ELineEnd::Lf;
 
+    // The zone takes a 0-ended text, where a 0 would end it: 0 bytes become
+    // blanks. memchr finds them, and the line ends below, many times faster
+    // than a look at every byte, which would add a third to a load.
+    char* const pEnd = text + n;
+    const char* pFirstNul = pEnd;
+    for (char* p = text; (p = static_cast<char*>(std::memchr(p, 0, pEnd - p))); ++p) {
+        if (nNul++ == 0) pFirstNul = p;
+        *p = ' ';
+    }
+    auto find = [pEnd](const char* p, char c) {
+        const void* q = std::memchr(p, c, static_cast<size_t>(pEnd - p));
+        return q ? static_cast<const char*>(q) : pEnd;
+    };
+
     long long nLine = 1;
-    size_t start = 0;
-    size_t i = 0;
+    const char* start = text;
+    const char* pNextCr = find(text, '\r');
+    const char* pNextLf = find(text, '\n');
     while (true) {
-        // To the next line end, turning 0 bytes into blanks on the way: the
-        // zone takes a 0-ended text, where a 0 would end it.
-        while (i < n && text[i] != '\r' && text[i] != '\n') {
-            if (text[i] == 0) {
-                text[i] = ' ';
-                if (nNul++ == 0) nNulLine = nLine;
-            }
-            ++i;
-        }
-        const long long nBytes = static_cast<long long>(i - start);
-        if (i == n && nBytes == 0) break;  // nothing behind the last line end
+        const char* eol = std::min(pNextCr, pNextLf);
+        const long long nBytes = eol - start;
+        if (eol == pEnd && nBytes == 0) break;  // nothing behind the last line end
+        if (pFirstNul < eol && nNulLine == 0) nNulLine = nLine;
         if (nBytes > limits.maxLineBytes && nLong++ == 0) nLongLine = nLine;
         nZoneLines += ZoneLinesOf(nBytes, limits.maxLineBytes);
         if (nZoneLines > limits.maxLines && nCutLine == 0) nCutLine = nLine;
-        if (i == n) break;
+        if (eol == pEnd) break;
 
         // CR LF is one line end; LF CR is two, as the zone reads them.
         ELineEnd eEnd = ELineEnd::Lf;
-        if (text[i] == '\r') {
-            eEnd = i + 1 < n && text[i + 1] == '\n' ? ELineEnd::CrLf : ELineEnd::Cr;
-            i += eEnd == ELineEnd::CrLf ? 2 : 1;
+        if (eol == pNextCr) {
+            eEnd = eol + 1 < pEnd && eol[1] == '\n' ? ELineEnd::CrLf : ELineEnd::Cr;
+            start = eol + (eEnd == ELineEnd::CrLf ? 2 : 1);
+            pNextCr = find(start, '\r');
+            if (eEnd == ELineEnd::CrLf) pNextLf = find(start, '\n');
         } else {
-            ++i;
+            start = eol + 1;
+            pNextLf = find(start, '\n');
         }
         if (bFirstEnd) {
             m_eLineEnd = eEnd;
@@ -98,10 +112,9 @@ void CTextFile::Analyse(std::string_view bytes, const SLimits& limits) {
         }
         ++endCounts[static_cast<size_t>(eEnd)];
         ++nLine;
-        start = i;
     }
     // Behind a final line end there is no line.
-    m_nLines = start == n ? nLine - 1 : nLine;
+    m_nLines = start == pEnd ? nLine - 1 : nLine;
     // An empty file says nothing: it gets the platform's final line end.
     m_bFinalLineEnd = n == 0 || text[n - 1] == '\r' || text[n - 1] == '\n';
 

@@ -44,8 +44,10 @@ public:
     // A new text that has no file yet: the platform's conventions, LF and a
     // final line end.
     CTextFile();
-    // The bytes of a file, as read.
+    // The bytes of a file, as read; a string given whole becomes the zone's
+    // text in place, without a copy.
     explicit CTextFile(std::string_view bytes);
+    explicit CTextFile(std::string&& bytes);
     CTextFile(std::string_view bytes, const SLimits& limits);
 
     // The text to hand to the zone's SetText (0-ended; no 0 byte inside).
@@ -83,7 +85,8 @@ public:
     void MarkSaved();
 
 private:
-    void Analyse(std::string_view bytes, const SLimits& limits);
+    // Reads m_strZoneText as the file's bytes and makes it the zone's text.
+    void Analyse(const SLimits& limits);
     static bool ChangesBytes(EProblem kind);
 
     std::string m_strZoneText;

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "apps/demo/TextFile.h"
+#include "zones/TextZoneParam.h"
 #include "support/ZoneTest.h"
 
 namespace {
@@ -247,6 +248,25 @@ TEST_F(TextFileTest, AZoneThatChangesTheTextOnLoadingIsNoticed) {
     EXPECT_TRUE(tabs.SavingChangesTheFile());
     tabs.ReleaseZoneText();
     EXPECT_STREQ(tabs.GetZoneText(), "");
+}
+
+// The editors' own zone, colouring SQL and converting keyword case as the
+// user types: loading converts nothing, so files still come back whole.
+TEST_F(TextFileTest, TheEditorsZoneGivesBackWhatItLoaded) {
+    CTextZoneParam zone;
+    Prepare(zone);
+    zone.SetSQLSyntaxColor(150);
+    zone.SetKeywordMode(1, 0);
+    for (int e = 0; e < 3; ++e) {
+        std::string bytes = std::string("select top 10 * from t -- note") + kEnds[e] +
+                            "/* begin\t" + kEnds[e] + "end */ 'str" + kEnds[e] + "ing'" +
+                            kEnds[e] + "\tgo";
+        for (int i = 0; i < 20; ++i) bytes += kEnds[e] + RandomLine(60);
+        CTextFile file(bytes);
+        EXPECT_EQ(RoundTrip(zone, file), bytes);
+        EXPECT_TRUE(file.GetProblems().empty()) << file.DescribeProblems();
+    }
+    zone.HideCaret();
 }
 
 // Random files with every fault mixed in, against the zone itself: saving
