@@ -142,6 +142,12 @@ TEST_F(QtAppDataManagerTest, EveryKeyOfTheEditorRoundTripsThroughTheFile) {
     EXPECT_EQ(ReadString(reader, "Comment", ""), "0,127,0");
     EXPECT_EQ(ReadString(reader, "KeyWord1", ""), "1,2,3");
     EXPECT_EQ(reader.ReadInt("Editor", "FontSize", 14, 0), 16);
+    // Names are found whatever their case, the exact one first.
+    WriteFile(path, "[editor]\ntabsize=2\n[Editor]\nTabSize=3\nfontsize=20\n");
+    EXPECT_EQ(reader.ReadInt("Editor", "TabSize", 4, 0), 3);
+    EXPECT_EQ(reader.ReadInt("Editor", "FontSize", 14, 0), 20);
+    EXPECT_EQ(reader.ReadInt("EDITOR", "FONTSIZE", 14, 0), 20);
+    WriteFile(path, "[Editor]\nComment=0,127,0\nFontSize=16\n");
 
     // Through the editor's own readers, once the store is installed.
     AppDataManager::InstallAppDataManager(&reader);

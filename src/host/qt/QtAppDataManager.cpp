@@ -164,7 +164,14 @@ QVariant CQtAppDataManager::ReadValue(const char* section, const char* key) {
             QFile::remove(scratch);
         }
     }
-    return m_parsedValues.value(SettingName(section, key));
+    const QString name = SettingName(section, key);
+    auto it = m_parsedValues.constFind(name);
+    if (it != m_parsedValues.constEnd()) return *it;
+    // Profile files are read without regard to case: "tabsize=2" written by
+    // hand under [editor] is the tab size still.
+    for (it = m_parsedValues.constBegin(); it != m_parsedValues.constEnd(); ++it)
+        if (it.key().compare(name, Qt::CaseInsensitive) == 0) return *it;
+    return {};
 }
 
 void CQtAppDataManager::WriteValue(const char* section, const char* key, const QVariant& value) {
