@@ -64,8 +64,10 @@ QString WriteScratch(const QByteArray& bytes) {
     const QString path = CScratchFiles::Instance().NewPath();
     if (path.isEmpty()) return {};
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) return {};
-    return path;
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush())
+        return path;
+    file.remove();
+    return {};
 }
 
 // Reads and writes of all managers are serialised: they may come from the
@@ -153,8 +155,10 @@ QVariant CQtAppDataManager::ReadValue(const char* section, const char* key) {
     if (!m_bParsed || bytes != m_parsedBytes) {
         m_parsedValues.clear();
         m_parsedBytes = bytes;
-        m_bParsed = true;
+        // Without room for the copy this read gives the defaults, and the
+        // next one tries again.
         const QString scratch = bytes.isEmpty() ? QString() : WriteScratch(bytes);
+        m_bParsed = bytes.isEmpty() || !scratch.isEmpty();
         if (!scratch.isEmpty()) {
             {
                 QSettings settings(scratch, QSettings::IniFormat);
