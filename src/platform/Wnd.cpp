@@ -5,6 +5,7 @@
 
 #include "platform/Caret.h"
 #include "platform/DC.h"
+#include "platform/FrameWnd.h"
 #include "platform/Messages.h"
 #include "platform/Platform.h"
 
@@ -165,7 +166,21 @@ void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, 
 }
 
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    // A menu or accelerator command (no control in lParam) goes to the
+    // window's command handlers; frames route it further.
+    if (message == WM_COMMAND && lParam == 0 && OnCmdMsg(LOWORD(wParam), CN_COMMAND, nullptr))
+        return 0;
     return DefWindowProc(message, wParam, lParam);
+}
+
+BOOL CWnd::OnCmdMsg(UINT, int, CCmdUI*) {
+    return FALSE;
+}
+
+CFrameWnd* CWnd::GetParentFrame() const {
+    for (CWnd* pWnd = m_pParent; pWnd; pWnd = pWnd->m_pParent)
+        if (auto* pFrame = dynamic_cast<CFrameWnd*>(pWnd)) return pFrame;
+    return nullptr;
 }
 
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -223,6 +238,7 @@ BOOL CWnd::ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT) {
 
 void CWnd::SetWindowText(const char* psz) {
     m_strText = psz ? psz : "";
+    if (m_pPeer) m_pPeer->OnTextChanged();
 }
 
 int CWnd::GetWindowText(char* pszBuffer, int nMaxCount) const {

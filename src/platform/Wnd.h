@@ -12,7 +12,9 @@
 #include "platform/Types.h"
 #include "platform/WindowPeer.h"
 
+class CCmdUI;
 class CDC;
+class CFrameWnd;
 
 struct CREATESTRUCTA {
     void* lpCreateParams = nullptr;
@@ -67,11 +69,17 @@ public:
     virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
     // Default processing of the message being handled.
     LRESULT Default();
+    // Carries out (CN_COMMAND), updates (CN_UPDATE_COMMAND_UI) or looks for
+    // (CN_QUERY_HANDLER) the handler of a command; TRUE when one was found.
+    // A window has none of its own; classes with command tables override it.
+    virtual BOOL OnCmdMsg(UINT nID, int nCode, CCmdUI* pCmdUI);
 
     // Relations and attributes.
     CWnd* GetParent() const { return m_pParent; }
     const std::vector<CWnd*>& GetChildren() const { return m_children; }
     CWnd* GetTopWindow() const { return m_children.empty() ? nullptr : m_children.front(); }
+    // The nearest frame window above this one, or null.
+    CFrameWnd* GetParentFrame() const;
     UINT GetDlgCtrlID() const { return m_nID; }
     void SetDlgCtrlID(UINT nID) { m_nID = nID; }
     DWORD GetStyle() const { return m_dwStyle; }
