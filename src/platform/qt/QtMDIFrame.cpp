@@ -49,6 +49,8 @@ CQtMDIFrame::CQtMDIFrame(CMDIFrameWnd& frame, QWidget* pParent)
 
 CQtMDIFrame::~CQtMDIFrame() {
     m_idle.stop();
+    // The area outlives this part of the window and still signals as it goes.
+    m_pArea->disconnect(this);
     m_frame.SetObserver(nullptr);
     m_frame.m_wndStatusBar.m_onPaneChanged = nullptr;
 }
@@ -157,11 +159,12 @@ QLabel* CQtMDIFrame::PaneLabel(int nIndex) const {
 void CQtMDIFrame::OnChildAdded(CMDIChildWnd* pChild) {
     QWidget* pWidget = CQtPlatform::WidgetOf(pChild);
     if (!pWidget) return;
-    RECT rc;
-    pChild->GetWindowRect(&rc);
     QMdiSubWindow* pSub = m_pArea->addSubWindow(pWidget);
     pSub->setAttribute(Qt::WA_DeleteOnClose, false);
-    pSub->resize(std::max(300, m_pArea->width() * 3 / 4), std::max(200, m_pArea->height() * 3 / 4));
+    // Stacked like sheets, each a little lower and to the right.
+    const int nOffset = static_cast<int>(m_subWindows.size() % 8) * 24;
+    pSub->setGeometry(nOffset, nOffset, std::max(300, m_pArea->width() * 3 / 4),
+                      std::max(200, m_pArea->height() * 3 / 4));
     pWidget->show();
     pSub->show();
     m_subWindows[pChild] = pSub;
