@@ -53,6 +53,7 @@ std::string FirstLongWord(CTextZone& zone) {
 CDemoWindow::CDemoWindow(QWidget* pParent)
     : CQtMDIFrame(m_mainFrame, pParent), m_qtPrompts(this), m_pPrompts(&m_qtPrompts) {
     m_mainFrame.SetPrompts(m_pPrompts);
+    SetPromptSource([](UINT nID) { return LoadStringResource(nID); });
     BuildMenus();
     std::map<UINT, QString> sizing;
     for (UINT nID : {ID_INDICATOR_LINE, ID_INDICATOR_MODE})
@@ -102,7 +103,7 @@ void CDemoWindow::BuildMenus() {
                                M::Command(ID_FILE_OPEN, "&Open...\tCtrl+O"),
                                M::Command(ID_FILE_SAVE, "&Save\tCtrl+S"),
                                M::Command(ID_FILE_SAVE_AS, "Save &As...\tCtrl+Shift+S"),
-                               M::Command(ID_FILE_CLOSE, "&Close\tCtrl+W"), M::Separator()}));
+                               M::Command(ID_FILE_CLOSE, "&Close"), M::Separator()}));
     QMenu* pFile = menuBar()->actions().front()->menu();
     pFile->addAction("&Quit", QKeySequence::Quit, this, [this] { close(); });
 

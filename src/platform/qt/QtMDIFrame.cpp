@@ -84,6 +84,9 @@ void CQtMDIFrame::FillMenu(QMenu* pMenu, const MenuItem& popup) {
         }
         QAction* pAction = pMenu->addAction(text);
         if (!key.isEmpty()) pAction->setShortcut(QKeySequence::fromString(key));
+        if (m_promptSource)
+            if (const char* pszPrompt = m_promptSource(item.nID))
+                pAction->setStatusTip(QString::fromLatin1(pszPrompt));
         const UINT nID = item.nID;
         connect(pAction, &QAction::triggered, this, [this, nID] {
             if (!RunCommand(nID)) MessageBeep(0);

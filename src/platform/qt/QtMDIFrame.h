@@ -9,6 +9,7 @@
 #include <QMainWindow>
 #include <QPointer>
 #include <QTimer>
+#include <functional>
 #include <map>
 #include <vector>
 
@@ -34,6 +35,11 @@ public:
     // A pop-up of the menu bar. Each item sends its command to the frame; the
     // key after the tab in its text becomes the item's shortcut.
     QMenu* AddMenu(const MenuItem& popup);
+    // Where the prompt of a command comes from, shown while its item is
+    // under the mouse; set it before adding menus.
+    void SetPromptSource(std::function<const char*(UINT nID)> source) {
+        m_promptSource = std::move(source);
+    }
     QAction* ActionOf(UINT nID) const;
     // The status bar's panes; the first, an ID_SEPARATOR, stretches and holds
     // messages. sizing gives a text per pane id to size its label with.
@@ -58,6 +64,7 @@ private:
     QMdiArea* m_pArea;
     std::map<CMDIChildWnd*, QPointer<QMdiSubWindow>> m_subWindows;
     std::map<UINT, QAction*> m_actions;
+    std::function<const char*(UINT)> m_promptSource;
     std::vector<QLabel*> m_paneLabels;
     QTimer m_idle;
     bool m_bSyncing = false;
