@@ -71,6 +71,7 @@ public:
     // Undo gives box edits their old lines back in place, past the wrapped
     // edits: the states from the first such line on are dropped here.
     void PerformUndoing(CUndoOperation* pOperation) override;
+    int ReplaceAllInPlace(const char* pszFind, const char* pszReplace, int bMatchCase) override;
 
 protected:
     virtual void ResetLastLines(int nLine);

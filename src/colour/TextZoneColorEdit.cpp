@@ -65,6 +65,15 @@ int CTextZoneColor::InsertText(const char* pszText, int bSelect, int bScroll, in
     return CTextZone::InsertText(pszText, bSelect, bScroll, bHorizontal);
 }
 
+int CTextZoneColor::ReplaceAllInPlace(const char* pszFind, const char* pszReplace,
+                                      int bMatchCase) {
+    // What the first deletion's wrapper does; the lines below are repainted
+    // by the replacement itself. Before it, so that no paint meanwhile takes
+    // a stale state. Should the loop run instead, it resets the same line.
+    if (m_bSyntaxColor) ResetLastLines(m_nSelStartLine);
+    return CTextZone::ReplaceAllInPlace(pszFind, pszReplace, bMatchCase);
+}
+
 int CTextZoneColor::SetText(const char* pszText) {
     ResetLastLines(0);
     return CTextZone::SetText(pszText);
@@ -82,14 +91,15 @@ void CTextZoneColor::HandleKillFocus(CWnd* pNewWnd) {
 }
 
 void CTextZoneColor::PerformUndoing(CUndoOperation* pOperation) {
-    // Kinds 6 and 7 restore lines in place; the others replay through the
+    // Kinds 6, 7 and 8 restore lines in place; the others replay through the
     // wrapped edits, which invalidate for themselves.
     int nFirst = TZ_TO_END;
     if (pOperation && m_bSyntaxColor) {
         // With paragraphs in stream mode the units hold offsets, not lines.
         const bool bOffsets = (m_dwStyle & ZS_PARAGRAPH) && m_nSelectionMode == 1;
         auto look = [&](const CUndoUnit* pUnit) {
-            if (pUnit && (pUnit->m_wType == 6 || pUnit->m_wType == 7))
+            if (pUnit && (pUnit->m_wType == 6 || pUnit->m_wType == 7 ||
+                       pUnit->m_wType == TZ_UNIT_LINE_IMAGES))
                 nFirst = std::min({nFirst, m_nSelStartLine, bOffsets ? 0 : pUnit->m_nFirstLine});
         };
         look(pOperation->m_pFirst.get());

@@ -131,11 +131,17 @@ void CEditFindReplace::ReplaceAll(IFindReplaceTarget& target, const char* pszFin
     CTextZone& zone = *target.GetFindZone();
     // One undo frame: a single Undo restores every replacement.
     zone.StartRegister(TZ_EDIT_REPLACE_ALL);
+    if (!zone.ReplaceAllInPlace(pszFind, pszReplace, bCase))
+        ReplaceEach(zone, pszFind, pszReplace, bCase);
+    zone.EndRegister();
+    target.OnFindReplaceModified();
+}
+
+void CEditFindReplace::ReplaceEach(CTextZone& zone, const char* pszFind, const char* pszReplace,
+                                   int bCase) {
     do {
         zone.InsertText(pszReplace, 0, 1, 1);
     } while (zone.FindTextFromCurrentPos(pszFind, 1, bCase));
-    zone.EndRegister();
-    target.OnFindReplaceModified();
 }
 
 int CEditFindReplace::InitializeReplace(IFindReplaceTarget& target) {

@@ -69,6 +69,10 @@ public:
     // Every match from the selection on, forwards, as one undo step.
     void ReplaceAll(IFindReplaceTarget& target, const char* pszFind, const char* pszReplace,
                     int bCase);
+    // The replacement loop itself, from the selection (the first match) on:
+    // what ReplaceAll runs where the zone cannot replace in one pass.
+    static void ReplaceEach(CTextZone& zone, const char* pszFind, const char* pszReplace,
+                            int bCase);
     // The selection when it is the match already, else the next match.
     int InitializeReplace(IFindReplaceTarget& target);
     // Find Next again with the last text; nothing without one.

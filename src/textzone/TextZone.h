@@ -71,6 +71,9 @@ constexpr WORD TZ_UNIT_TYPED = 4;         // a range typed, to take out
 constexpr WORD TZ_UNIT_INSERTED = 5;      // a range inserted, to take out
 constexpr WORD TZ_UNIT_LINES = 6;         // lines before a box edit; restoring selects
 constexpr WORD TZ_UNIT_LINES_CARET = 7;   // the same; restoring leaves a caret
+// Lines replace all changed in place, each with its other text: replaying
+// swaps the texts back (ReplaceAllInPlace).
+constexpr WORD TZ_UNIT_LINE_IMAGES = 8;
 
 // Text flags of the readers.
 constexpr WORD TF_LF = 1;              // line end LF (the two low bits)
@@ -248,6 +251,14 @@ public:
     virtual int HandleOleDrop(const char* pszText, ULONG dropEffect, POINT* pt);
     virtual bool IsOleDragAllowed(UINT nFlags, POINT* pt);
     virtual bool IsOleDropAllowed(UINT nFlags, POINT* pt);
+    // Replace all from the selection, which is the first match, inside the
+    // open group operation: what the loop of InsertText and forward
+    // FindTextFromCurrentPos leaves (text, selection, undo and redo), in one
+    // pass over the lines and one undo unit. Returns 0, having changed
+    // nothing, where that cannot be exact; the caller runs the loop then. A
+    // derived zone that wraps InsertText or DeleteSelection does here what
+    // its wrappers would, or returns 0.
+    virtual int ReplaceAllInPlace(const char* pszFind, const char* pszReplace, int bMatchCase);
 
     // Plain members.
     // Whether undo records places as text offsets: with wrapped paragraphs
@@ -279,6 +290,11 @@ protected:
     // Shows the lines [nFrom, nTo) again unless a closed block still hides
     // them: they were hidden by a block that went with its first line.
     void ShowOrphanedLines(int nFrom, int nTo);
+
+    // Replays a TZ_UNIT_LINE_IMAGES unit and files its inverse.
+    void ReplayLineImages(const CUndoUnit& unit);
+    // Steps a store place on by nLines lines; false past the end.
+    bool AdvanceSlot(int* pBlock, int* pIndex, int nLines);
 
     // Column editing, the box branches of InsertText and DeleteSelection.
     int BoxInsertText(const char* pszText, int nColumn, int bHadSelection, int* pnLast);

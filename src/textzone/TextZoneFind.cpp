@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "host/Collator.h"
+#include "textzone/FindNeedle.h"
 #include "textzone/TextZone.h"
 
 namespace {
@@ -15,88 +16,6 @@ int RawLength(CTextZone& zone, int nLine) {
     CStringEx* pLine = nLine >= 0 ? zone.GetLine(nLine) : nullptr;
     return pLine ? pLine->GetLength() : 0;
 }
-
-// The word to find, its case folded once. A match at i is what strncmp (or
-// _strnicmp) over the word's length at i calls equal; a search jumps from
-// one possible first byte to the next with memchr instead of comparing at
-// every byte.
-class Needle {
-public:
-    Needle(const char* pszText, int n, bool bMatchCase)
-        : m_p(pszText), m_n(n), m_bMatchCase(bMatchCase) {
-        for (int c = 0; c < 256; ++c)
-            m_fold[c] = ToLower1252(static_cast<unsigned char>(c));
-        m_folded.resize(static_cast<size_t>(n));
-        for (int k = 0; k < n; ++k)
-            m_folded[static_cast<size_t>(k)] = m_fold[static_cast<unsigned char>(pszText[k])];
-        // The bytes that fold to the first one: itself and its other case.
-        m_first[0] = static_cast<unsigned char>(pszText[0]);
-        m_first[1] = m_first[0];
-        if (!bMatchCase) {
-            for (int c = 0; c < 256; ++c)
-                if (m_fold[c] == m_folded[0] && c != m_first[0])
-                    m_first[1] = static_cast<unsigned char>(c);
-        }
-    }
-
-    // The first match starting in [nFrom, nLength - n] of p, or -1.
-    int Forward(const char* p, int nLength, int nFrom) const {
-        const int last = nLength - m_n;
-        if (nFrom > last) return -1;
-        for (int i = nFrom; i <= last;) {
-            const int c = NextFirst(p, i, last);
-            if (c < 0) return -1;
-            if (Matches(p + c)) return c;
-            i = c + 1;
-        }
-        return -1;
-    }
-
-    // The last match starting in [0, nTo - n] of p, or -1.
-    int Backward(const char* p, int nTo) const {
-        for (int last = nTo - m_n; last >= 0;) {
-            const int c = PrevFirst(p, last);
-            if (c < 0) return -1;
-            if (Matches(p + c)) return c;
-            last = c - 1;
-        }
-        return -1;
-    }
-
-private:
-    bool Matches(const char* q) const {
-        if (m_bMatchCase) return std::memcmp(q, m_p, static_cast<size_t>(m_n)) == 0;
-        for (int k = 0; k < m_n; ++k)
-            if (m_fold[static_cast<unsigned char>(q[k])] != m_folded[static_cast<size_t>(k)])
-                return false;
-        return true;
-    }
-    // The first place in [i, last] holding one of the first bytes, or -1.
-    int NextFirst(const char* p, int i, int last) const {
-        const auto span = static_cast<size_t>(last - i + 1);
-        const void* a = std::memchr(p + i, m_first[0], span);
-        const void* b = m_first[1] != m_first[0] ? std::memchr(p + i, m_first[1], span) : nullptr;
-        if (!a && !b) return -1;
-        const char* hit = static_cast<const char*>(!a ? b : !b ? a : std::min(a, b));
-        return static_cast<int>(hit - p);
-    }
-    // The last place in [0, last] holding one of the first bytes, or -1.
-    int PrevFirst(const char* p, int last) const {
-        const auto span = static_cast<size_t>(last + 1);
-        const void* a = memrchr(p, m_first[0], span);
-        const void* b = m_first[1] != m_first[0] ? memrchr(p, m_first[1], span) : nullptr;
-        if (!a && !b) return -1;
-        const char* hit = static_cast<const char*>(!a ? b : !b ? a : std::max(a, b));
-        return static_cast<int>(hit - p);
-    }
-
-    const char* m_p;
-    int m_n;
-    bool m_bMatchCase;
-    unsigned char m_fold[256];
-    std::vector<unsigned char> m_folded;
-    unsigned char m_first[2];
-};
 
 }  // namespace
 
@@ -163,7 +82,7 @@ int CTextZone::FindTextFromCurrentPos(const char* pszText, int bForward, int bMa
     // The lines are taken straight from the store's blocks, with the lengths
     // kept beside them: a line too short for the word is not even opened.
     if (m_bLengthsStale) RebuildLineLengths();
-    const Needle needle(pszText, n, bMatchCase != 0);
+    const CFindNeedle needle(pszText, n, bMatchCase != 0);
     int b = 0;
     int i = 0;
     int L = nLine;

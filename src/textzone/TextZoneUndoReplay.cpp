@@ -241,6 +241,10 @@ void CTextZone::PerformUndoing(CUndoOperation* pOperation) {
                 AfterBoxRestore(*this, unit, oldFirst, oldLast);
                 break;
 
+            case TZ_UNIT_LINE_IMAGES:
+                ReplayLineImages(unit);
+                break;
+
             default:
                 break;
         }

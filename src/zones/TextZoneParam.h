@@ -36,6 +36,11 @@ public:
     // Loads without converting: the text is the host's, not typed.
     int SetText(const char* pszText) override;
     int InsertText(const char* pszText, int bSelect, int bScroll, int bHorizontal) override;
+    // Keyword conversion looks at every inserted piece: then the loop runs.
+    int ReplaceAllInPlace(const char* pszFind, const char* pszReplace, int bMatchCase) override {
+        if (KeywordGate()) return 0;
+        return CTextZoneColor::ReplaceAllInPlace(pszFind, pszReplace, bMatchCase);
+    }
     void HandleLButtonDown(UINT nFlags, POINT* pt) override;
     void HandleKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) override;
     void HandleChar(UINT nChar, UINT nRepCnt, UINT nFlags) override;

@@ -1,0 +1,269 @@
+// Replace all in one pass. The dialog's loop (InsertText, then a forward
+// FindTextFromCurrentPos, until nothing is found) does the whole per-edit
+// work of a window for every match and files two undo units each: at a few
+// million matches that is a minute. Where every match lies inside one line
+// and the lines stay as many as they were, the loop comes to this: the
+// matches of each line left to right without overlap, from the selection
+// on, each replaced, the caret behind the last replacement. So the lines
+// are rewritten in place, straight from the store's blocks, and the undo
+// unit keeps each changed line's old text; replaying it swaps the texts
+// back and files the new ones for redo.
+//
+// Wherever the loop could do something else (line ends in either text,
+// wrap, box or line mode, tab conversion, blocks, the line limits, a match
+// at the very end of an unended last line, which the deletion treats as a
+// join) this changes nothing and the caller runs the loop.
+#include <algorithm>
+#include <cstring>
+#include <string>
+
+#include "platform/Wnd.h"
+#include "textzone/FindNeedle.h"
+#include "textzone/TextBytes.h"
+#include "textzone/TextZone.h"
+
+namespace {
+
+using textbytes::TextLength;
+
+// The unit's text: a header of two selections (the one its replay leaves,
+// then the one its inverse's replay leaves), then each changed line in
+// order as its index, its length and its bytes.
+struct Selection {
+    int startLine, startChar, endLine, endChar;
+};
+constexpr size_t kHeader = 2 * sizeof(Selection);
+
+void PutInt(std::string& out, int value) {
+    out.append(reinterpret_cast<const char*>(&value), sizeof value);
+}
+
+int GetInt(const std::string& in, size_t at) {
+    int value = 0;
+    std::memcpy(&value, in.data() + at, sizeof value);
+    return value;
+}
+
+void PutImage(std::string& out, int nLine, const char* p, int nLength) {
+    PutInt(out, nLine);
+    PutInt(out, nLength);
+    out.append(p, static_cast<size_t>(nLength));
+}
+
+std::string MakeHeader(const Selection& replay, const Selection& inverse) {
+    std::string out(kHeader, '\0');
+    std::memcpy(out.data(), &replay, sizeof replay);
+    std::memcpy(out.data() + sizeof replay, &inverse, sizeof inverse);
+    return out;
+}
+
+// Gives a line a text, in place when the length stays.
+void SetLineText(CStringEx& line, const char* p, int nLength) {
+    if (line.GetLength() == nLength)
+        std::memcpy(line.GetBuffer(), p, static_cast<size_t>(nLength));
+    else
+        line.assign(p, nLength);
+}
+
+void FileUnit(CUndoOperation& op, std::unique_ptr<CUndoUnit> pUnit) {
+    if (op.IsGroup())
+        op.m_group.push_back(std::move(pUnit));
+    else if (!op.m_pFirst)
+        op.m_pFirst = std::move(pUnit);
+    else if (!op.m_pSecond)
+        op.m_pSecond = std::move(pUnit);
+    else
+        op.m_group.push_back(std::move(pUnit));
+}
+
+}  // namespace
+
+bool CTextZone::AdvanceSlot(int* pBlock, int* pIndex, int nLines) {
+    int b = *pBlock;
+    int i = *pIndex + nLines;
+    while (b < m_nBlockCount && i >= m_pBlockSizes[b]) {
+        i -= m_pBlockSizes[b];
+        ++b;
+    }
+    *pBlock = b;
+    *pIndex = i;
+    return b < m_nBlockCount;
+}
+
+int CTextZone::ReplaceAllInPlace(const char* pszFind, const char* pszReplace, int bMatchCase) {
+    if (!pszFind || !*pszFind) return 0;
+    if (!pszReplace) pszReplace = "";
+    if (std::strpbrk(pszFind, "\r\n") || std::strpbrk(pszReplace, "\r\n")) return 0;
+    if (m_bUndoing || !m_pCurrentOperation || !m_pCurrentOperation->IsGroup()) return 0;
+    if (m_nSelectionMode != TZ_SEL_STREAM || (m_dwStyle & ZS_PARAGRAPH) || m_bTabConvert ||
+        m_bReadOnly)
+        return 0;
+    if (!m_editBlocks.empty() || !m_inputBlocks.empty() || !m_altBlocks.empty()) return 0;
+    // Each insertion borrows a line for what stands right of the caret.
+    const int lastIndex = GetLastLineIndex();
+    if (lastIndex >= TZ_MAX_LINES - 1) return 0;
+    const int firstLine = m_nSelStartLine;
+    const int firstStart = m_nSelStartChar;
+    const int firstEnd = m_nSelEndChar;
+    if (m_nSelEndLine != firstLine || firstStart >= firstEnd) return 0;
+    {
+        CStringEx* pFirst = GetLine(firstLine);
+        if (!pFirst || firstEnd > TextLength(*pFirst)) return 0;
+    }
+    if (m_bLengthsStale) RebuildLineLengths();
+
+    const int n = static_cast<int>(std::strlen(pszFind));
+    const int r = static_cast<int>(std::strlen(pszReplace));
+    const bool freeCaret = (m_dwStyle & ZS_FREECARET) != 0;
+    const CFindNeedle needle(pszFind, n, bMatchCase != 0);
+
+    std::string images(kHeader, '\0');
+    std::string scratch;
+    int b = 0;
+    int i = 0;
+    if (!GetLineIndexes(firstLine, &b, &i)) return 0;
+    int L = firstLine;
+    int lastLine = firstLine;  // the last replacement, in the new text
+    int lastPos = firstStart;
+    bool ok = true;
+    for (; ok;) {
+        CStringEx* pLine = m_ppBlocks[b][i];
+        const int length = SlotLength(m_ppLengths[b][i]);
+        const char* s = pLine->c_str();
+        int start = L == firstLine ? firstStart : needle.Forward(s, length, 0);
+        if (start >= 0) {
+            PutImage(images, L, s, length);
+            // The deletion of a match up to the end of an unended last line
+            // goes the way of a join; the loop's own way is kept for that.
+            const bool unendedLast = L == lastIndex && !pLine->IsEnded() && !freeCaret;
+            const bool inPlace = r == n && (L != firstLine || firstEnd - firstStart == n);
+            char* out = inPlace ? pLine->GetBuffer() : nullptr;
+            scratch.clear();
+            int done = 0;  // bytes of s taken over
+            while (start >= 0) {
+                const int end = L == firstLine && start == firstStart ? firstEnd : start + n;
+                const int at = inPlace ? start : static_cast<int>(scratch.size()) + start - done;
+                // Where the insertion would cut the line, the loop decides.
+                if ((unendedLast && end == length) || at + r >= TZ_MAX_LINE_LENGTH) {
+                    ok = false;
+                    break;
+                }
+                if (inPlace) {
+                    std::memcpy(out + start, pszReplace, static_cast<size_t>(r));
+                } else {
+                    scratch.append(s + done, static_cast<size_t>(start - done));
+                    scratch.append(pszReplace, static_cast<size_t>(r));
+                }
+                done = end;
+                lastLine = L;
+                lastPos = at;
+                start = needle.Forward(s, length, end);
+            }
+            if (ok && !inPlace) {
+                scratch.append(s + done, static_cast<size_t>(length - done));
+                // The line tells the zone its new length; it is found here.
+                RememberPlace(b, i);
+                pLine->assign(scratch.data(), static_cast<int>(scratch.size()));
+            }
+        }
+        if (!ok || !AdvanceSlot(&b, &i, 1)) break;
+        ++L;
+    }
+
+    if (!ok) {
+        // Every line recorded so far gets its old text back.
+        for (size_t at = kHeader; at < images.size();) {
+            const int nLine = GetInt(images, at);
+            const int nLength = GetInt(images, at + sizeof(int));
+            at += 2 * sizeof(int);
+            if (CStringEx* pLine = GetLine(nLine)) SetLineText(*pLine, images.data() + at, nLength);
+            at += static_cast<size_t>(nLength);
+        }
+        return 0;
+    }
+
+    HideCaret();
+    const Selection undone{firstLine, firstStart, firstLine, firstEnd};
+    const Selection redone{lastLine, lastPos, lastLine, lastPos + r};
+    const Selection header[2] = {undone, redone};
+    std::memcpy(images.data(), header, kHeader);
+    auto pUnit = std::make_unique<CUndoUnit>();
+    pUnit->m_wType = TZ_UNIT_LINE_IMAGES;
+    pUnit->m_wSelMode = TZ_SEL_STREAM;
+    pUnit->m_nFirstLine = firstLine;
+    pUnit->m_nLastLine = lastLine;
+    pUnit->m_hText = std::move(images);
+    FileUnit(*m_pCurrentOperation, std::move(pUnit));
+
+    RebuildCurrentLength();
+    // An empty replacement inserts nothing, and InsertText stops before the
+    // scroll ranges then.
+    if (r > 0) {
+        UpdateVScrollBar();
+        UpdateHScrollBar(firstLine, TZ_TO_END);
+    }
+    // The view follows the loop's caret: its first step may scroll up to the
+    // first match, the later ones only down, so the last decides the rest.
+    m_nGoalX = -1;
+    m_nSelStartLine = m_nSelEndLine = firstLine;
+    m_nSelStartChar = m_nSelEndChar = firstStart + r;
+    DrawCaret(1, 1);
+    // The caret behind the last replacement, the root at its start, as the
+    // last InsertText leaves them.
+    m_nSelStartLine = m_nSelEndLine = m_nSelRootLine = lastLine;
+    m_nSelRootChar = lastPos;
+    m_nSelStartChar = m_nSelEndChar = lastPos + r;
+    RedrawLines(firstLine, TZ_TO_END, 1);
+    DrawCaret(1, 1);
+    return 1;
+}
+
+void CTextZone::ReplayLineImages(const CUndoUnit& unit) {
+    const std::string& text = unit.m_hText;
+    if (text.size() < kHeader) return;
+    Selection header[2];
+    std::memcpy(header, text.data(), kHeader);
+
+    auto pInverse = std::make_unique<CUndoUnit>();
+    pInverse->m_wType = TZ_UNIT_LINE_IMAGES;
+    pInverse->m_wSelMode = TZ_SEL_STREAM;
+    pInverse->m_nFirstLine = unit.m_nFirstLine;
+    pInverse->m_nLastLine = unit.m_nLastLine;
+    std::string& other = pInverse->m_hText;
+    other.reserve(text.size());
+    other = MakeHeader(header[1], header[0]);
+
+    if (m_bLengthsStale) RebuildLineLengths();
+    int b = 0;
+    int i = 0;
+    int L = -1;
+    for (size_t at = kHeader; at + 2 * sizeof(int) <= text.size();) {
+        const int nLine = GetInt(text, at);
+        const int nLength = GetInt(text, at + sizeof(int));
+        at += 2 * sizeof(int);
+        if (L < 0 ? !GetLineIndexes(nLine, &b, &i) : !AdvanceSlot(&b, &i, nLine - L)) break;
+        L = nLine;
+        CStringEx* pLine = m_ppBlocks[b][i];
+        PutImage(other, nLine, pLine->c_str(), pLine->GetLength());
+        RememberPlace(b, i);
+        SetLineText(*pLine, text.data() + at, nLength);
+        at += static_cast<size_t>(nLength);
+    }
+    if (m_pCurrentOperation) FileUnit(*m_pCurrentOperation, std::move(pInverse));
+
+    RebuildCurrentLength();
+    UpdateHScrollBar(unit.m_nFirstLine, TZ_TO_END);
+    // The loop's replay starts at the far end of the changes and walks back
+    // to the other: the view follows its first caret, then its last.
+    m_nGoalX = -1;
+    m_nSelectionMode = TZ_SEL_STREAM;
+    m_nSelStartLine = m_nSelEndLine = header[1].startLine;
+    m_nSelStartChar = m_nSelEndChar = header[1].startChar;
+    DrawCaret(1, 1);
+    const Selection& sel = header[0];
+    m_nSelStartLine = m_nSelRootLine = sel.startLine;
+    m_nSelStartChar = m_nSelRootChar = sel.startChar;
+    m_nSelEndLine = sel.endLine;
+    m_nSelEndChar = sel.endChar;
+    RedrawLines(unit.m_nFirstLine, TZ_TO_END, 0);
+}
