@@ -31,6 +31,8 @@ TASKS = [
     ("UndoApi", "Undo the 100 inserted characters"),
     ("Find", "Find a word near the end"),
     ("FindNoCase", "Find a word near the end, case folded"),
+    ("ReplaceAll", "Replace all of WHERE by where, case matched, as one undo step (3 lines in 8 hold one: 375k matches a million lines)"),
+    ("ReplaceAllUndo", "Undo the replace all"),
     ("Paint", "Paint one screen (800 x 600)"),
     ("HiddenFrame", "Paint a frame near the end, a closed block every 100 lines (ZS_VARHEIGHT)"),
     ("RestoreBlocks", "Restore 131070 closed blocks (65535 + 65535 alternate) from the block status string"),

@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <cstring>
 #include <string>
+#include <vector>
 
 #include "platform/Wnd.h"
 #include "textzone/FindNeedle.h"
@@ -28,7 +29,9 @@ using textbytes::TextLength;
 
 // The unit's text: a header of two selections (the one its replay leaves,
 // then the one its inverse's replay leaves), then each changed line in
-// order as its index, its length and its bytes.
+// order: its index, its count of pieces, and per piece where it stands in
+// the line's present text, its length there, and the other text's length
+// and bytes. Only the pieces are kept, not the lines.
 struct Selection {
     int startLine, startChar, endLine, endChar;
 };
@@ -38,16 +41,10 @@ void PutInt(std::string& out, int value) {
     out.append(reinterpret_cast<const char*>(&value), sizeof value);
 }
 
-int GetInt(const std::string& in, size_t at) {
+int GetInt(const char* p) {
     int value = 0;
-    std::memcpy(&value, in.data() + at, sizeof value);
+    std::memcpy(&value, p, sizeof value);
     return value;
-}
-
-void PutImage(std::string& out, int nLine, const char* p, int nLength) {
-    PutInt(out, nLine);
-    PutInt(out, nLength);
-    out.append(p, static_cast<size_t>(nLength));
 }
 
 std::string MakeHeader(const Selection& replay, const Selection& inverse) {
@@ -57,12 +54,56 @@ std::string MakeHeader(const Selection& replay, const Selection& inverse) {
     return out;
 }
 
-// Gives a line a text, in place when the length stays.
-void SetLineText(CStringEx& line, const char* p, int nLength) {
-    if (line.GetLength() == nLength)
-        std::memcpy(line.GetBuffer(), p, static_cast<size_t>(nLength));
-    else
-        line.assign(p, nLength);
+// Turns a line's text into the other one by the count pieces at p, and
+// writes the pieces that turn it back behind *pInverse if there is one.
+// Returns where the next line's record starts.
+const char* SwapPieces(CStringEx& line, const char* p, int count, std::string* pInverse,
+                       std::string& scratch) {
+    const char* const first = p;
+    bool sameLengths = true;
+    for (int k = 0; k < count; ++k) {
+        const int otherLength = GetInt(p + 2 * sizeof(int));
+        sameLengths = sameLengths && GetInt(p + sizeof(int)) == otherLength;
+        p += 3 * sizeof(int) + static_cast<size_t>(otherLength);
+    }
+    const char* const end = p;
+    const char* text = line.c_str();
+    int shift = 0;  // where a piece stands in the other text, less where it stands now
+    for (p = first; p < end;) {
+        const int at = GetInt(p);
+        const int length = GetInt(p + sizeof(int));
+        const int otherLength = GetInt(p + 2 * sizeof(int));
+        if (pInverse) {
+            PutInt(*pInverse, at + shift);
+            PutInt(*pInverse, otherLength);
+            PutInt(*pInverse, length);
+            pInverse->append(text + at, static_cast<size_t>(length));
+        }
+        shift += otherLength - length;
+        p += 3 * sizeof(int) + static_cast<size_t>(otherLength);
+    }
+    if (sameLengths) {
+        char* out = line.GetBuffer();
+        for (p = first; p < end;) {
+            const int otherLength = GetInt(p + 2 * sizeof(int));
+            std::memcpy(out + GetInt(p), p + 3 * sizeof(int), static_cast<size_t>(otherLength));
+            p += 3 * sizeof(int) + static_cast<size_t>(otherLength);
+        }
+        return end;
+    }
+    scratch.clear();
+    int done = 0;
+    for (p = first; p < end;) {
+        const int at = GetInt(p);
+        const int otherLength = GetInt(p + 2 * sizeof(int));
+        scratch.append(text + done, static_cast<size_t>(at - done));
+        scratch.append(p + 3 * sizeof(int), static_cast<size_t>(otherLength));
+        done = at + GetInt(p + sizeof(int));
+        p += 3 * sizeof(int) + static_cast<size_t>(otherLength);
+    }
+    scratch.append(text + done, static_cast<size_t>(line.GetLength() - done));
+    line.assign(scratch.data(), static_cast<int>(scratch.size()));
+    return end;
 }
 
 void FileUnit(CUndoOperation& op, std::unique_ptr<CUndoUnit> pUnit) {
@@ -117,8 +158,9 @@ int CTextZone::ReplaceAllInPlace(const char* pszFind, const char* pszReplace, in
     const bool freeCaret = (m_dwStyle & ZS_FREECARET) != 0;
     const CFindNeedle needle(pszFind, n, bMatchCase != 0);
 
-    std::string images(kHeader, '\0');
+    std::string record(kHeader, '\0');
     std::string scratch;
+    std::vector<int> starts;
     int b = 0;
     int i = 0;
     if (!GetLineIndexes(firstLine, &b, &i)) return 0;
@@ -126,58 +168,76 @@ int CTextZone::ReplaceAllInPlace(const char* pszFind, const char* pszReplace, in
     int lastLine = firstLine;  // the last replacement, in the new text
     int lastPos = firstStart;
     bool ok = true;
-    for (; ok;) {
+    for (;;) {
         CStringEx* pLine = m_ppBlocks[b][i];
         const int length = SlotLength(m_ppLengths[b][i]);
         const char* s = pLine->c_str();
         int start = L == firstLine ? firstStart : needle.Forward(s, length, 0);
         if (start >= 0) {
-            PutImage(images, L, s, length);
             // The deletion of a match up to the end of an unended last line
             // goes the way of a join; the loop's own way is kept for that.
-            const bool unendedLast = L == lastIndex && !pLine->IsEnded() && !freeCaret;
-            const bool inPlace = r == n && (L != firstLine || firstEnd - firstStart == n);
-            char* out = inPlace ? pLine->GetBuffer() : nullptr;
-            scratch.clear();
-            int done = 0;  // bytes of s taken over
-            while (start >= 0) {
+            const bool unendedLast = L == lastIndex && !freeCaret && !pLine->IsEnded();
+            starts.clear();
+            int shift = 0;  // the new text's places less the old ones
+            for (; start >= 0; start = needle.Forward(s, length, starts.back() + n)) {
                 const int end = L == firstLine && start == firstStart ? firstEnd : start + n;
-                const int at = inPlace ? start : static_cast<int>(scratch.size()) + start - done;
                 // Where the insertion would cut the line, the loop decides.
-                if ((unendedLast && end == length) || at + r >= TZ_MAX_LINE_LENGTH) {
+                if ((unendedLast && end == length) || start + shift + r >= TZ_MAX_LINE_LENGTH) {
                     ok = false;
                     break;
                 }
+                starts.push_back(start);
+                shift += r - (end - start);
+                // The first match may be a selection of another length.
+                if (start == firstStart && L == firstLine) starts.back() = end - n;
+            }
+            if (!ok) break;
+            // The new text's pieces, to be swapped back by undo.
+            PutInt(record, L);
+            PutInt(record, static_cast<int>(starts.size()));
+            shift = 0;
+            const bool inPlace = r == n && !(L == firstLine && firstEnd - firstStart != n);
+            char* out = inPlace ? pLine->GetBuffer() : nullptr;
+            scratch.clear();
+            int done = 0;
+            for (size_t k = 0; k < starts.size(); ++k) {
+                const int end = starts[k] + n;
+                const int from = k == 0 && L == firstLine ? firstStart : starts[k];
+                const int at = from + shift;
+                PutInt(record, at);
+                PutInt(record, r);
+                PutInt(record, end - from);
+                record.append(s + from, static_cast<size_t>(end - from));
                 if (inPlace) {
-                    std::memcpy(out + start, pszReplace, static_cast<size_t>(r));
+                    std::memcpy(out + from, pszReplace, static_cast<size_t>(r));
                 } else {
-                    scratch.append(s + done, static_cast<size_t>(start - done));
+                    scratch.append(s + done, static_cast<size_t>(from - done));
                     scratch.append(pszReplace, static_cast<size_t>(r));
                 }
                 done = end;
+                shift += r - (end - from);
                 lastLine = L;
                 lastPos = at;
-                start = needle.Forward(s, length, end);
             }
-            if (ok && !inPlace) {
+            if (!inPlace) {
                 scratch.append(s + done, static_cast<size_t>(length - done));
                 // The line tells the zone its new length; it is found here.
                 RememberPlace(b, i);
                 pLine->assign(scratch.data(), static_cast<int>(scratch.size()));
             }
         }
-        if (!ok || !AdvanceSlot(&b, &i, 1)) break;
+        if (!AdvanceSlot(&b, &i, 1)) break;
         ++L;
     }
 
     if (!ok) {
-        // Every line recorded so far gets its old text back.
-        for (size_t at = kHeader; at < images.size();) {
-            const int nLine = GetInt(images, at);
-            const int nLength = GetInt(images, at + sizeof(int));
-            at += 2 * sizeof(int);
-            if (CStringEx* pLine = GetLine(nLine)) SetLineText(*pLine, images.data() + at, nLength);
-            at += static_cast<size_t>(nLength);
+        // Every line changed so far gets its old text back.
+        for (const char* p = record.data() + kHeader; p < record.data() + record.size();) {
+            CStringEx* pLine = GetLine(GetInt(p));
+            const int count = GetInt(p + sizeof(int));
+            p += 2 * sizeof(int);
+            if (!pLine) break;
+            p = SwapPieces(*pLine, p, count, nullptr, scratch);
         }
         return 0;
     }
@@ -186,13 +246,13 @@ int CTextZone::ReplaceAllInPlace(const char* pszFind, const char* pszReplace, in
     const Selection undone{firstLine, firstStart, firstLine, firstEnd};
     const Selection redone{lastLine, lastPos, lastLine, lastPos + r};
     const Selection header[2] = {undone, redone};
-    std::memcpy(images.data(), header, kHeader);
+    std::memcpy(record.data(), header, kHeader);
     auto pUnit = std::make_unique<CUndoUnit>();
     pUnit->m_wType = TZ_UNIT_LINE_IMAGES;
     pUnit->m_wSelMode = TZ_SEL_STREAM;
     pUnit->m_nFirstLine = firstLine;
     pUnit->m_nLastLine = lastLine;
-    pUnit->m_hText = std::move(images);
+    pUnit->m_hText = std::move(record);
     FileUnit(*m_pCurrentOperation, std::move(pUnit));
 
     RebuildCurrentLength();
@@ -234,20 +294,22 @@ void CTextZone::ReplayLineImages(const CUndoUnit& unit) {
     other = MakeHeader(header[1], header[0]);
 
     if (m_bLengthsStale) RebuildLineLengths();
+    std::string scratch;
     int b = 0;
     int i = 0;
     int L = -1;
-    for (size_t at = kHeader; at + 2 * sizeof(int) <= text.size();) {
-        const int nLine = GetInt(text, at);
-        const int nLength = GetInt(text, at + sizeof(int));
-        at += 2 * sizeof(int);
+    const char* const stop = text.data() + text.size();
+    for (const char* p = text.data() + kHeader; p + 2 * sizeof(int) <= stop;) {
+        const int nLine = GetInt(p);
+        const int count = GetInt(p + sizeof(int));
+        p += 2 * sizeof(int);
         if (L < 0 ? !GetLineIndexes(nLine, &b, &i) : !AdvanceSlot(&b, &i, nLine - L)) break;
         L = nLine;
-        CStringEx* pLine = m_ppBlocks[b][i];
-        PutImage(other, nLine, pLine->c_str(), pLine->GetLength());
+        PutInt(other, nLine);
+        PutInt(other, count);
+        // A line whose length changes tells the zone; it is found here.
         RememberPlace(b, i);
-        SetLineText(*pLine, text.data() + at, nLength);
-        at += static_cast<size_t>(nLength);
+        p = SwapPieces(*m_ppBlocks[b][i], p, count, &other, scratch);
     }
     if (m_pCurrentOperation) FileUnit(*m_pCurrentOperation, std::move(pInverse));
 
