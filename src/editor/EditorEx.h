@@ -1,0 +1,102 @@
+// The ready-made editor control: a CEditor over a keyword-converting zone
+// that takes its font, colours and behaviour from the host's settings store
+// and reloads them whenever the preference pages broadcast a change. It also
+// carries the standard edit commands, box and stream mode and bookmarks for
+// a host's menus and tool bars.
+//
+// Sources: EditorEx.cpp (construction, settings, text in and out, messages),
+// EditorExCommands.cpp (the command table and the command-UI states).
+#pragma once
+
+#include "editor/Editor.h"
+#include "editor/EditorDefaults.h"
+#include "host/VeskString.h"
+
+class CCmdUI;
+class CTextZoneParam;
+
+class CEditorEx : public CEditor, public CEditorDefaults {
+public:
+    // With a zone it is borrowed; without one the control makes its own.
+    explicit CEditorEx(CTextZoneParam* pZone = nullptr);
+    ~CEditorEx() override;
+
+    // The message the preference pages send to every window after a change.
+    static UINT GetLoadIniMessage();
+
+    using CEditor::InitEditor;
+    // Sets the control up for a language now, rather than at its first
+    // message: the settings, a 32000-character cap with bLimit, and colouring
+    // by nLanguage with bSyntaxColor (none without).
+    virtual void InitEditor(int nLanguage, int bLimit, int bSyntaxColor, int nReserved);
+    // The whole text with the line ends of nEol (the text flags of the zone's
+    // readers), in one string for the library that holds until the next call.
+    virtual const char* GetText(unsigned short nEol);
+    // A search found nothing: the user hears it.
+    virtual void OnTextNotFound(const char* pszText);
+
+    CTextZoneParam* GetTextZone() const { return m_pParamZone; }
+    // Inserts at the caret, or at the start of line nAtLine unless that is -1,
+    // in stream mode whatever the mode; bRegister makes it one undo step (and
+    // marks the text modified), bModified only marks it. The zone's result.
+    int InsertText(const VESK::String& strText, int nFlag, int bRegister, int bModified,
+                   int nAtLine);
+    // Empties the text; the parent hears EN_CHANGE.
+    void ClearAll();
+    // Tells the parent the text changed (EN_CHANGE, posted).
+    void SetModifiedFlag();
+
+    // The answer to the settings broadcast; wParam is null or the address of a
+    // section name that replaces m_strSection for good. Returns 0.
+    LRESULT OnLoadIniSetting(WPARAM wParam, LPARAM lParam);
+
+    BOOL OnCmdMsg(UINT nID, int nCode, CCmdUI* pCmdUI) override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    // Set-up at the first message that needs it, with the settings on top.
+    void InitEditor() override;
+
+    // Commands and their states.
+    void OnEditBoxmode();
+    void OnUpdateEditBoxmode(CCmdUI* pCmdUI);
+    void OnEditStreammode();
+    void OnUpdateEditStreammode(CCmdUI* pCmdUI);
+    void OnViewTogglebookmark();
+    void OnViewNextbookmark();
+    void OnViewPrevbookmark();
+    void OnEditClearAll();
+    void OnUpdateEditClearAll(CCmdUI* pCmdUI);
+    void OnEditCopy();
+    void OnUpdateEditCopy(CCmdUI* pCmdUI);
+    void OnEditCut();
+    void OnUpdateEditCut(CCmdUI* pCmdUI);
+    void OnEditPaste();
+    void OnUpdateEditPaste(CCmdUI* pCmdUI);
+    void OnEditSelectAll();
+    void OnUpdateEditSelectAll(CCmdUI* pCmdUI);
+    void OnEditUndo();
+    void OnUpdateEditUndo(CCmdUI* pCmdUI);
+    void OnEditRedo();
+    void OnUpdateEditRedo(CCmdUI* pCmdUI);
+
+    int m_bOwnParamZone = 0;
+
+protected:
+    int OnCreate(CREATESTRUCT* pcs);
+    void OnMouseMove(UINT nFlags, CPoint point);
+
+    // CEditorDefaults
+    CTextZoneParam* GetSettingsZone() override { return m_pParamZone; }
+    CWnd* GetSettingsWindow() override { return GetSafeHwnd(); }
+    void SetSettingsFont(CFont* pFont, int bRedraw) override { SetFont(pFont, bRedraw); }
+    void SetSettingsBackground(COLORREF cr) override { m_crBackground = cr; }
+
+private:
+    // From one selection mode to the other, only from wFrom, redrawing the
+    // selected lines.
+    void SwitchSelectionMode(short wFrom, short wTo);
+    // Whether editing commands may change the text now.
+    bool CanEdit();
+
+    CTextZoneParam* m_pParamZone = nullptr;
+};
