@@ -45,8 +45,9 @@ UINT CEditorEx::GetLoadIniMessage() {
 void CEditorEx::InitEditor() {
     CEditor::InitEditor();
     // The control's own set-up puts in a tab of 4 and the parent's font;
-    // what the user chose comes on top.
-    OnLoadIniSetting(0, 0);
+    // what the user chose comes on top. A load in progress set the control
+    // up on its way (its font change repaints) and goes on to do just that.
+    if (!m_bLoading) OnLoadIniSetting(0, 0);
 }
 
 void CEditorEx::InitEditor(int nLanguage, int bLimit, int bSyntaxColor, int) {
@@ -99,7 +100,10 @@ void CEditorEx::SetModifiedFlag() {
 }
 
 LRESULT CEditorEx::OnLoadIniSetting(WPARAM wParam, LPARAM) {
-    return LoadIniSetting(wParam);
+    m_bLoading = true;
+    const LRESULT nResult = LoadIniSetting(wParam);
+    m_bLoading = false;
+    return nResult;
 }
 
 int CEditorEx::OnCreate(CREATESTRUCT*) {

@@ -99,4 +99,5 @@ private:
     bool CanEdit();
 
     CTextZoneParam* m_pParamZone = nullptr;
+    bool m_bLoading = false;
 };

@@ -138,6 +138,35 @@ TEST_F(EditorExTest, CreationLoadsTheSettingsAndTheFirstMessageKeepsThem) {
     editor.DestroyWindow();
 }
 
+TEST_F(EditorExTest, AControlFirstSizedAfterCreationKeepsItsSettings) {
+    // Made empty, as a layout does, so the set-up waits for the first paint.
+    Set("TabSize", 6);
+    Set("FontSize", 18);
+    CEditorEx editor;
+    ASSERT_TRUE(editor.Create(WS_VISIBLE | WS_CHILD, RECT{0, 0, 0, 0}, &m_parent, 36));
+    EXPECT_FALSE(editor.m_bInitialized);
+    editor.MoveWindow(0, 0, 300, 200);
+    editor.UpdateWindow();
+    EXPECT_TRUE(editor.m_bInitialized);
+    EXPECT_EQ(editor.GetTextZone()->GetTabWidth(), -6);
+    EXPECT_EQ(FontOf(editor.GetTextZone()->GetFont()).lfHeight, -18);
+    editor.DestroyWindow();
+}
+
+TEST_F(EditorExTest, ACreationRefusedBelowLoadsNothingAndFails) {
+    // A window procedure below the control that refuses the window.
+    class CRefusedEditor : public CEditorEx {
+    public:
+        LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            return message == WM_CREATE ? -1 : CEditorEx::DefWindowProc(message, wParam, lParam);
+        }
+    };
+    CRefusedEditor editor;
+    EXPECT_FALSE(editor.Create(WS_VISIBLE | WS_CHILD, RECT{0, 0, 100, 100}, &m_parent, 37));
+    EXPECT_EQ(editor.GetSafeHwnd(), nullptr);
+    EXPECT_EQ(editor.m_pDefFont->GetSafeHandle(), nullptr);
+}
+
 TEST_F(EditorExTest, BackgroundAndColouringFollowTheBroadcast) {
     const UINT nLoad = CEditorEx::GetLoadIniMessage();
     Set("FontNorBkgColor", static_cast<int>(RGB(200, 100, 50)));
