@@ -66,10 +66,12 @@ std::vector<CMDIChildWnd*> CMDIFrameWnd::GetChildFrames() const {
 }
 
 BOOL CMDIFrameWnd::CloseAllDocuments() {
-    for (CMDIChildWnd* pChild : GetChildFrames()) {
-        pChild->SendMessage(WM_CLOSE);
-        if (pChild->GetSafeHwnd()) return FALSE;  // its document said no
-    }
+    // Every modified document is asked once, before anything closes: one
+    // refusal keeps them all.
+    for (const Child& child : m_children)
+        if (child.pDoc && child.pDoc->IsModified() && !child.pDoc->SaveModified()) return FALSE;
+    for (CMDIChildWnd* pChild : GetChildFrames())
+        pChild->DestroyWindow();
     return TRUE;
 }
 

@@ -34,7 +34,8 @@ public:
     void MDIActivate(CMDIChildWnd* pChild);
     // The open children, oldest first.
     std::vector<CMDIChildWnd*> GetChildFrames() const;
-    // Closes every child whose document lets it go; FALSE if one refused.
+    // Asks every modified document, then closes all children; FALSE, with
+    // nothing closed, if one refused.
     BOOL CloseAllDocuments();
 
     CFrameWnd* GetActiveFrame() override;
