@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "editor/EditorInput.h"
 #include "host/MessageBeep.h"
 #include "platform/Font.h"
 #include "platform/Messages.h"
@@ -77,22 +78,7 @@ void CEditorEx::OnTextNotFound(const char*) {
 
 int CEditorEx::InsertText(const VESK::String& strText, int nFlag, int bRegister, int bModified,
                           int nAtLine) {
-    BeginWaitCursor();
-    if (bRegister) m_pZone->StartRegister(6);
-    m_pZone->CancelSelection(1);
-    // Box mode would insert the lines as a column; text from the host goes
-    // in as lines.
-    const bool bBox = m_pZone->GetSelectionMode() == 2;
-    if (bBox) m_pZone->SetSelectionMode(1);
-    if (nAtLine != -1) m_pZone->SetSelection(nAtLine, nAtLine, 0, 0, 0, 0);
-    const int nResult = m_pZone->InsertText(strText.c_str(), nFlag, 1, 1);
-    if (bRegister || bModified) {
-        m_pZone->SetModify(1);
-        if (bRegister) m_pZone->EndRegister();
-    }
-    if (bBox) m_pZone->SetSelectionMode(2);
-    EndWaitCursor();
-    return nResult;
+    return InsertHostText(this, m_pZone, strText.c_str(), nFlag, bRegister, bModified, nAtLine);
 }
 
 void CEditorEx::SetModifiedFlag() {

@@ -92,9 +92,6 @@ protected:
     void SetSettingsBackground(COLORREF cr) override { m_crBackground = cr; }
 
 private:
-    // From one selection mode to the other, only from wFrom, redrawing the
-    // selected lines.
-    void SwitchSelectionMode(short wFrom, short wTo);
     // Whether editing commands may change the text now.
     bool CanEdit();
 

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "editor/EditorEx.h"
+#include "editor/EditorInput.h"
 #include "host/MessageBeep.h"
 #include "platform/CmdUI.h"
 #include "platform/CommandMap.h"
@@ -46,23 +47,13 @@ bool CEditorEx::CanEdit() {
     return IsWindowEnabled() && !m_pZone->GetReadOnly();
 }
 
-void CEditorEx::SwitchSelectionMode(short wFrom, short wTo) {
-    if (m_pZone->GetSelectionMode() != wFrom) return;
-    LONG lFirst = 0, lLast = 0;
-    m_pZone->GetSelection(&lFirst, &lLast, nullptr, nullptr, 0);
-    m_pZone->HideCaret();
-    m_pZone->SetSelectionMode(wTo);
-    m_pZone->RedrawLines(lFirst, lLast, 1);
-    m_pZone->DrawCaret(1, 1);
-}
-
 void CEditorEx::OnEditBoxmode() {
     // Columns need every byte equally wide.
     if (m_pZone->IsFontProportionnal()) {
         VESKMessageBeep(0);
         return;
     }
-    SwitchSelectionMode(kStreamMode, kBoxMode);
+    SwitchSelectionMode(this, m_pZone, kBoxMode);
 }
 
 void CEditorEx::OnUpdateEditBoxmode(CCmdUI* pCmdUI) {
@@ -71,7 +62,7 @@ void CEditorEx::OnUpdateEditBoxmode(CCmdUI* pCmdUI) {
 }
 
 void CEditorEx::OnEditStreammode() {
-    SwitchSelectionMode(kBoxMode, kStreamMode);
+    SwitchSelectionMode(this, m_pZone, kStreamMode);
 }
 
 void CEditorEx::OnUpdateEditStreammode(CCmdUI* pCmdUI) {
