@@ -249,6 +249,18 @@ TEST_F(EditorExTest, InitEditorSetsTheLanguageAndCanCapTheText) {
     EXPECT_FALSE(plain.GetTextZone()->IsSyntaxColorEnabled());
     EXPECT_EQ(plain.GetTextZone()->GetMaxLength(), lDefaultMax);
     plain.DestroyWindow();
+
+    // Before the window exists the call is early, not fatal: creation then
+    // loads the settings over it and the cap stays.
+    CEditorEx early;
+    early.InitEditor(10, 1, 0, 0);
+    Create(early, 38);
+    EXPECT_EQ(early.GetTextZone()->GetMaxLength(), 32000);
+    EXPECT_EQ(early.GetTextZone()->GetTabWidth(), -3);
+    EXPECT_TRUE(early.GetTextZone()->IsSyntaxColorEnabled());
+    early.SendMessage(WM_CHAR, 'q');
+    EXPECT_STREQ(early.GetText(kCrLfAsIs), "q");
+    early.DestroyWindow();
 }
 
 TEST_F(EditorExTest, WithoutASettingsStoreTheEditorStillWorks) {
