@@ -32,7 +32,7 @@ protected:
     explicit CEditorViewEx(CTextZoneParam* pZone = nullptr);
 
     int OnCreate(CREATESTRUCT* pcs) override;
-    LRESULT OnLoadIniSetting(WPARAM wParam, LPARAM lParam);
+    virtual LRESULT OnLoadIniSetting(WPARAM wParam, LPARAM lParam);
 
     CTextZoneParam* GetSettingsZone() override { return m_pParamZone; }
     CWnd* GetSettingsWindow() override { return this; }

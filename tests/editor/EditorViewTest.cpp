@@ -111,6 +111,26 @@ TEST_F(ViewTest, MenuCommandsReachTheActiveViewOnly) {
     EXPECT_EQ(Text(m_pViewA), "aaa");
 }
 
+TEST_F(ViewTest, EveryEditCommandMarksTheDocumentAndCopyDoesNot) {
+    Type(m_pViewB, "abc");
+    CTextZoneParam& zone = *m_pViewB->GetTextZone();
+    auto after = [&](UINT nID) {
+        zone.SetModify(0);
+        m_pDocB->SetModifiedFlag(FALSE);
+        m_main.SendMessage(WM_COMMAND, nID, 0);
+        return m_pDocB->IsModified() != FALSE;
+    };
+    m_main.SendMessage(WM_COMMAND, ID_EDIT_SELECT_ALL, 0);
+    EXPECT_FALSE(after(ID_EDIT_COPY));
+    EXPECT_FALSE(after(ID_EDIT_SELECT_ALL));
+    EXPECT_TRUE(after(ID_EDIT_CUT));
+    EXPECT_TRUE(after(ID_EDIT_PASTE));
+    EXPECT_TRUE(after(ID_EDIT_UNDO));
+    EXPECT_TRUE(after(ID_EDIT_REDO));
+    EXPECT_TRUE(after(ID_EDIT_CLEAR_ALL));
+    EXPECT_FALSE(m_pDocA->IsModified());
+}
+
 TEST_F(ViewTest, CommandStatesFollowTheView) {
     // Nothing typed: no selection, nothing to undo, an empty clipboard.
     EXPECT_FALSE(Update(ID_EDIT_CUT).m_bEnabled);
