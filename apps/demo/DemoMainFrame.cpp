@@ -6,6 +6,7 @@
 #include "apps/demo/DemoDocument.h"
 #include "apps/demo/DemoView.h"
 #include "editor/EditFrm.h"
+#include "editor/EditorDefaults.h"
 #include "host/AppDataManager.h"
 #include "platform/CmdUI.h"
 #include "platform/MDIChildWnd.h"
@@ -148,7 +149,7 @@ BOOL CDemoMainFrame::OnKeywordCaseCommand(UINT nMode, int nCode, CCmdUI* pCmdUI)
     if (nCode == CN_COMMAND) {
         // A setting: written to the store, then every open editor reloads.
         WriteSettingInt("Editor", "KeywordMode", static_cast<int>(nMode));
-        SendMessageToDescendants(RegisterWindowMessageA("EditExLoadIniMessage"));
+        CEditorDefaults::BroadcastSettingsChanged();
     }
     return TRUE;
 }

@@ -93,6 +93,11 @@ COLORREF CEditorDefaults::GetDefSyntaxColor(int nIndex) {
     return ParseColor(strValue.c_str());
 }
 
+void CEditorDefaults::BroadcastSettingsChanged(const char* pszSection) {
+    CWnd::SendMessageToAllWindows(RegisterWindowMessageA("EditExLoadIniMessage"),
+                                  reinterpret_cast<WPARAM>(pszSection), 0);
+}
+
 COLORREF CEditorDefaults::ParseColor(const char* pszText) {
     int rgb[3] = {0, 0, 0};
     if (pszText) std::sscanf(pszText, "%d,%d,%d", &rgb[0], &rgb[1], &rgb[2]);

@@ -44,6 +44,11 @@ public:
     virtual COLORREF GetDefSyntaxColor(int nIndex);
     virtual int GetDefShortcutsEnable();
 
+    // Tells every open editor to read its settings again, as the preference
+    // pages do after writing them; with a section name, that section from
+    // now on.
+    static void BroadcastSettingsChanged(const char* pszSection = nullptr);
+
     // "r,g,b" as the store holds a colour; parts that do not scan are 0.
     static COLORREF ParseColor(const char* pszText);
 

@@ -165,6 +165,17 @@ void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, 
     }
 }
 
+void CWnd::SendMessageToAllWindows(UINT message, WPARAM wParam, LPARAM lParam) {
+    std::vector<CWnd*> windows = TopLevelWindows();
+    for (CWnd* pWnd : windows) {
+        auto& live = TopLevelWindows();
+        // One handler may close another window meanwhile.
+        if (std::find(live.begin(), live.end(), pWnd) == live.end()) continue;
+        pWnd->SendMessage(message, wParam, lParam);
+        pWnd->SendMessageToDescendants(message, wParam, lParam, TRUE);
+    }
+}
+
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     // A menu or accelerator command (no control in lParam) goes to the
     // window's command handlers; frames route it further.
@@ -234,6 +245,11 @@ BOOL CWnd::ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT) {
         NotifySizeChanged();
     }
     return TRUE;
+}
+
+CWnd* CWnd::SetActiveWindow() {
+    if (m_pPeer) m_pPeer->Activate();
+    return nullptr;
 }
 
 void CWnd::SetWindowText(const char* psz) {

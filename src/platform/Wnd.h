@@ -65,6 +65,10 @@ public:
     BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     void SendMessageToDescendants(UINT message, WPARAM wParam = 0, LPARAM lParam = 0,
                                   BOOL bDeep = TRUE);
+    // To every window of the process: each top-level one and its descendants.
+    // A host on another toolkit may hold editors under several top-level
+    // windows, where the desktop would have one main window above them all.
+    static void SendMessageToAllWindows(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
     virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
     // Default processing of the message being handled.
@@ -91,6 +95,8 @@ public:
     BOOL IsWindowEnabled() const { return m_bEnabled; }
     BOOL EnableWindow(BOOL bEnable = TRUE);
     BOOL ShowWindow(int nCmdShow);
+    // Brings a top-level window forward and gives it the keyboard.
+    CWnd* SetActiveWindow();
     BOOL IsWindowVisible() const;
 
     // Geometry. MoveWindow sends WM_SIZE when the client size changes.

@@ -218,7 +218,7 @@ TEST_F(ViewTest, SettingsBroadcastReachesEveryViewAndReadsAfresh) {
     EXPECT_EQ(m_pViewA->GetDefTabSize(), -8);
     m_store.WriteInt("Editor", "UseSyntaxColor", 0);
     m_store.WriteInt("Editor", "FontNorBkgColor", 0x123456);
-    m_main.SendMessageToDescendants(RegisterWindowMessageA("EditExLoadIniMessage"));
+    CEditorDefaults::BroadcastSettingsChanged();
     Type(m_pViewA, "\tx");
     Type(m_pViewB, "\tx");
     EXPECT_EQ(a.GetTabWidth(), b.GetTabWidth());
