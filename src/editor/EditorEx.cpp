@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "editor/EditorInput.h"
-#include "host/MessageBeep.h"
 #include "platform/Font.h"
 #include "platform/Messages.h"
 #include "platform/Platform.h"
@@ -72,10 +71,6 @@ const char* CEditorEx::GetText(unsigned short nEol) {
     return strText.c_str();
 }
 
-void CEditorEx::OnTextNotFound(const char*) {
-    VESKMessageBeep(0);
-}
-
 int CEditorEx::InsertText(const VESK::String& strText, int nFlag, int bRegister, int bModified,
                           int nAtLine) {
     return InsertHostText(this, m_pZone, strText.c_str(), nFlag, bRegister, bModified, nAtLine);
@@ -108,7 +103,10 @@ void CEditorEx::OnMouseMove(UINT nFlags, CPoint) {
 }
 
 LRESULT CEditorEx::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    static const UINT s_nFindReplace = RegisterWindowMessageA("commdlg_FindReplace");
     if (message == GetLoadIniMessage()) return OnLoadIniSetting(wParam, lParam);
+    if (message == s_nFindReplace)
+        return CEditFindReplace::Instance().OnFindReplaceCmd(*this, message, wParam, lParam);
     switch (message) {
         case WM_CREATE:
             return OnCreate(reinterpret_cast<CREATESTRUCT*>(lParam));
@@ -116,6 +114,19 @@ LRESULT CEditorEx::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
             LRESULT nResult = CEditor::WindowProc(message, wParam, lParam);
             OnMouseMove(static_cast<UINT>(wParam),
                         CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)));
+            return nResult;
+        }
+        case WM_DESTROY: {
+            // The find dialog outlives its editor; it must not report to a
+            // window that has gone. The next editor to get the focus takes it.
+            CEditFindReplaceDialog* pDlg = CEditFindReplace::Instance().m_pFindReplaceDlg;
+            if (pDlg && pDlg->m_hwndOwner == this) pDlg->m_hwndOwner = nullptr;
+            return CEditor::WindowProc(message, wParam, lParam);
+        }
+        case WM_SETFOCUS: {
+            LRESULT nResult = CEditor::WindowProc(message, wParam, lParam);
+            // An open find dialog searches the editor the user is in.
+            CEditFindReplace::Instance().FollowFocus(this);
             return nResult;
         }
         default:

@@ -5,9 +5,11 @@
 // a host's menus and tool bars.
 //
 // Sources: EditorEx.cpp (construction, settings, text in and out, messages),
-// EditorExCommands.cpp (the command table and the command-UI states).
+// EditorExCommands.cpp (the command table and the command-UI states),
+// EditorExFind.cpp (its part in the find dialog the editors share).
 #pragma once
 
+#include "editor/EditFindReplace.h"
 #include "editor/Editor.h"
 #include "editor/EditorDefaults.h"
 #include "host/VeskString.h"
@@ -15,7 +17,7 @@
 class CCmdUI;
 class CTextZoneParam;
 
-class CEditorEx : public CEditor, public CEditorDefaults {
+class CEditorEx : public CEditor, public CEditorDefaults, public IFindReplaceTarget {
 public:
     // With a zone it is borrowed; without one the control makes its own.
     explicit CEditorEx(CTextZoneParam* pZone = nullptr);
@@ -33,7 +35,14 @@ public:
     // readers), in one string for the library that holds until the next call.
     virtual const char* GetText(unsigned short nEol);
     // A search found nothing: the user hears it.
-    virtual void OnTextNotFound(const char* pszText);
+    void OnTextNotFound(const char* pszText) override;
+    // Opens the find dialog (or with bFindOnly 0 the replace dialog) for
+    // this control, with the selection as the search text.
+    void Find(int bFindOnly);
+    // The last search again, from the caret; nothing without one.
+    void FindNext();
+    // The selection when it is the match already, else the next match.
+    int InitializeReplace() override;
 
     CTextZoneParam* GetTextZone() const { return m_pParamZone; }
     // Inserts at the caret, or at the start of line nAtLine unless that is -1,
@@ -78,6 +87,10 @@ public:
     void OnUpdateEditUndo(CCmdUI* pCmdUI);
     void OnEditRedo();
     void OnUpdateEditRedo(CCmdUI* pCmdUI);
+    void OnEditFind();
+    void OnUpdateEditFind(CCmdUI* pCmdUI);
+    void OnEditRepeat();
+    void OnUpdateEditRepeat(CCmdUI* pCmdUI);
 
     int m_bOwnParamZone = 0;
 
@@ -90,6 +103,14 @@ protected:
     CWnd* GetSettingsWindow() override { return GetSafeHwnd(); }
     void SetSettingsFont(CFont* pFont, int bRedraw) override { SetFont(pFont, bRedraw); }
     void SetSettingsBackground(COLORREF cr) override { m_crBackground = cr; }
+
+    // IFindReplaceTarget
+    CTextZone* GetFindZone() override { return m_pZone; }
+    CWnd* GetFindWindow() override { return this; }
+    void OnFindReplaceModified() override { SetModifiedFlag(); }
+    void OnFindNext(const char* pszFind, int bNext, int bCase) override;
+    void OnReplaceSel(const char* pszFind, int bNext, int bCase, const char* pszReplace) override;
+    void OnReplaceAll(const char* pszFind, const char* pszReplace, int bCase) override;
 
 private:
     // Whether editing commands may change the text now.

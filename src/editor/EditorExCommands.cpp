@@ -1,9 +1,11 @@
 // The extended control's commands and the states a host's menus, tool bars
 // and status panes show for them. In a disabled window the commands do
-// nothing, whatever route they came by. Erase buffer (49921) is the host's: the
-// menu offers it, but the text it erases is the host's business.
+// nothing, whatever route they came by. Erase buffer (49921) is the host's:
+// the menu offers it, but the text it erases is the host's business; so is
+// Replace (57641), which a host opens with Find(FALSE).
 #include <array>
 
+#include "editor/EditFindReplace.h"
 #include "editor/EditorEx.h"
 #include "editor/EditorInput.h"
 #include "host/MessageBeep.h"
@@ -34,6 +36,8 @@ const std::array kCommands = {
     Entry{ID_EDIT_SELECT_ALL, &CEditorEx::OnEditSelectAll, &CEditorEx::OnUpdateEditSelectAll},
     Entry{ID_EDIT_UNDO, &CEditorEx::OnEditUndo, &CEditorEx::OnUpdateEditUndo},
     Entry{ID_EDIT_REDO, &CEditorEx::OnEditRedo, &CEditorEx::OnUpdateEditRedo},
+    Entry{ID_EDIT_FIND, &CEditorEx::OnEditFind, &CEditorEx::OnUpdateEditFind},
+    Entry{ID_EDIT_REPEAT, &CEditorEx::OnEditRepeat, &CEditorEx::OnUpdateEditRepeat},
 };
 
 }  // namespace
@@ -153,4 +157,20 @@ void CEditorEx::OnEditRedo() {
 
 void CEditorEx::OnUpdateEditRedo(CCmdUI* pCmdUI) {
     pCmdUI->Enable(m_pZone->GetRedoType() != 0 && IsWindowEnabled());
+}
+
+void CEditorEx::OnEditFind() {
+    if (IsWindowEnabled()) Find(TRUE);
+}
+
+void CEditorEx::OnUpdateEditFind(CCmdUI* pCmdUI) {
+    pCmdUI->Enable(!m_pZone->IsEmpty() && IsWindowEnabled());
+}
+
+void CEditorEx::OnEditRepeat() {
+    if (IsWindowEnabled()) FindNext();
+}
+
+void CEditorEx::OnUpdateEditRepeat(CCmdUI* pCmdUI) {
+    pCmdUI->Enable(!CEditFindReplace::Instance().m_strFind.IsEmpty() && IsWindowEnabled());
 }

@@ -22,6 +22,10 @@ protected:
         Create(m_editor);
     }
     void TearDown() override {
+        // The find dialog is shared by every editor of the process.
+        if (CEditFindReplaceDialog* pDlg = CEditFindReplace::Instance().m_pFindReplaceDlg)
+            pDlg->SendMessage(WM_CLOSE);
+        CEditFindReplace::Instance().m_strFind = "";
         m_editor.DestroyWindow();
         m_parent.DestroyWindow();
         AppDataManager::InstallAppDataManager(nullptr);

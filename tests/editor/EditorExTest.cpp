@@ -1,5 +1,6 @@
 // The extended control's commands, their command-UI states, the change
 // notifications of its edits, text in and out, and Alt+drag.
+#include <memory>
 #include <string>
 
 #include "EditorExFixture.h"
@@ -45,10 +46,11 @@ protected:
 TEST_F(EditorExCommandTest, TheTableHasTheEditorsCommandsAndLeavesTheRestToTheHost) {
     for (UINT nID : {ID_EDIT_BOXMODE, ID_EDIT_STREAMMODE, ID_VIEW_TOGGLEBOOKMARK,
                      ID_VIEW_NEXTBOOKMARK, ID_VIEW_PREVBOOKMARK, ID_EDIT_CLEAR_ALL, ID_EDIT_COPY,
-                     ID_EDIT_CUT, ID_EDIT_PASTE, ID_EDIT_SELECT_ALL, ID_EDIT_UNDO, ID_EDIT_REDO})
+                     ID_EDIT_CUT, ID_EDIT_PASTE, ID_EDIT_SELECT_ALL, ID_EDIT_UNDO, ID_EDIT_REDO,
+                     ID_EDIT_FIND, ID_EDIT_REPEAT})
         EXPECT_TRUE(m_editor.OnCmdMsg(nID, CN_QUERY_HANDLER, nullptr)) << nID;
-    // Erase buffer is the host's; find and print come with their own parts.
-    for (UINT nID : {ID_EDIT_ERASEBUFFER, ID_EDIT_FIND, ID_EDIT_REPEAT, ID_FILE_PRINT, 57608u}) {
+    // Erase buffer and replace are the host's; printing comes with its own part.
+    for (UINT nID : {ID_EDIT_ERASEBUFFER, ID_EDIT_REPLACE, ID_FILE_PRINT, 57608u}) {
         EXPECT_FALSE(m_editor.OnCmdMsg(nID, CN_QUERY_HANDLER, nullptr)) << nID;
         EXPECT_FALSE(m_editor.OnCmdMsg(nID, CN_COMMAND, nullptr)) << nID;
         EXPECT_FALSE(Enabled(nID)) << nID;
@@ -283,6 +285,56 @@ TEST_F(EditorExCommandTest, GetTextGivesTheLineEndsAskedInOneStringUntilTheNextC
     EXPECT_STREQ(m_editor.GetText(2), "first line\r\nsecond line\r\nthird\r\n");
     m_editor.SetWindowTextA("");
     EXPECT_STREQ(m_editor.GetText(2), "");
+}
+
+TEST_F(EditorExCommandTest, FindSearchesTheFocusedEditorAndReplacingTellsTheParent) {
+    CEditFindReplace& find = CEditFindReplace::Instance();
+    EXPECT_TRUE(Enabled(ID_EDIT_FIND));
+    EXPECT_FALSE(Enabled(ID_EDIT_REPEAT));
+    SelectSecondLine();
+    Command(ID_EDIT_FIND);
+    CEditFindReplaceDialog* pDlg = find.m_pFindReplaceDlg;
+    ASSERT_NE(pDlg, nullptr);
+    EXPECT_EQ(pDlg->GetFindString(), "second");
+    EXPECT_TRUE(pDlg->IsFindOnly());
+    EXPECT_EQ(pDlg->m_hwndOwner, &m_editor);
+
+    m_editor.SetSel(0, 0);
+    pDlg->DoAction(FR_FINDNEXT, "line", "", TRUE, FALSE);
+    LONG lStart = 0, lEnd = 0;
+    Zone().GetSelection(&lStart, &lEnd, nullptr, nullptr, 1);
+    EXPECT_EQ(lStart, 6);
+    EXPECT_TRUE(Enabled(ID_EDIT_REPEAT));
+    Command(ID_EDIT_REPEAT);
+    Zone().GetSelection(&lStart, &lEnd, nullptr, nullptr, 1);
+    EXPECT_EQ(lStart, 18);
+    const int nBeeps = m_platform.GetBeepCount();
+    m_editor.FindNext();
+    EXPECT_EQ(m_platform.GetBeepCount(), nBeeps + 1);
+
+    // A replacement is a change the parent hears of.
+    Changes();
+    m_editor.SetModify(0);
+    pDlg->DoAction(FR_REPLACE, "third", "3rd", TRUE, FALSE);
+    EXPECT_EQ(Text(), "first line\r\nsecond line\r\n3rd");
+    EXPECT_EQ(Changes(), 1);
+
+    // Another editor that gets the focus takes the dialog over; when it goes,
+    // the dialog reports to no window until the next one has the focus.
+    auto pOther = std::make_unique<CEditorEx>();
+    Create(*pOther, 39);
+    pOther->SetWindowTextA("line");
+    pOther->SetSel(0, 0);
+    pOther->SetFocus();
+    EXPECT_EQ(pDlg->m_hwndOwner, pOther.get());
+    pDlg->DoAction(FR_FINDNEXT, "line", "", TRUE, FALSE);
+    EXPECT_TRUE(pOther->GetTextZone()->TestSelection());
+    pOther.reset();
+    EXPECT_EQ(pDlg->m_hwndOwner, nullptr);
+    pDlg->DoAction(FR_FINDNEXT, "line", "", TRUE, FALSE);
+    m_platform.PumpMessages();
+    m_editor.SetFocus();
+    EXPECT_EQ(pDlg->m_hwndOwner, &m_editor);
 }
 
 TEST_F(EditorExTest, AZoneGivenIsBorrowedAndANullOneIsMadeAndOwned) {
