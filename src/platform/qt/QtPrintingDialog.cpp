@@ -5,28 +5,24 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "platform/DC.h"
 #include "platform/Messages.h"
 #include "platform/PrintingDialog.h"
-#include "platform/qt/QtDC.h"
 #include "platform/qt/QtPlatform.h"
 #include "platform/qt/Windows1252.h"
 
 namespace {
 
-QDialog* MakeDialog(CPrintingDialog* pDialog) {
+QDialog* MakeDialog() {
     auto* pWidget = new QDialog(QApplication::activeWindow());
     pWidget->setWindowTitle(QApplication::applicationName());
     pWidget->setModal(false);
-    (void)pDialog;
     return pWidget;
 }
 
 }  // namespace
 
 CQtPrintingPeer::CQtPrintingPeer(CQtPlatform& platform, CWnd* pWnd, const CREATESTRUCTA& cs)
-    : CQtWidgetPeer(pWnd, MakeDialog(static_cast<CPrintingDialog*>(pWnd)), cs),
-      m_platform(platform),
+    : CQtDialogPeer(platform, pWnd, MakeDialog(), cs),
       m_pDialog(static_cast<CPrintingDialog*>(pWnd)),
       m_pWidget(static_cast<QDialog*>(GetWidget())) {
     auto* pLayout = new QVBoxLayout(m_pWidget);
@@ -57,14 +53,4 @@ CQtPrintingPeer::~CQtPrintingPeer() {
 void CQtPrintingPeer::DetachWidget() {
     if (m_pDialog) m_pDialog->m_onTextChanged = nullptr;
     m_pDialog = nullptr;
-}
-
-QRect CQtPrintingPeer::ClientArea() const {
-    return m_pWidget->rect();
-}
-
-std::unique_ptr<CDC> CQtPrintingPeer::CreateDC(const CRgn* pPaintRegion) {
-    CRgn surface(RECT{0, 0, m_pWidget->width(), m_pWidget->height()});
-    if (pPaintRegion) surface = CRgn::Intersection(surface, *pPaintRegion);
-    return std::make_unique<CQtDC>(m_platform.Fonts(), nullptr, surface, nullptr);
 }
