@@ -54,6 +54,13 @@ std::string MakeHeader(const Selection& replay, const Selection& inverse) {
     return out;
 }
 
+// Where the record behind count pieces at p ends.
+const char* SkipPieces(const char* p, int count) {
+    for (int k = 0; k < count; ++k)
+        p += 3 * sizeof(int) + static_cast<size_t>(GetInt(p + 2 * sizeof(int)));
+    return p;
+}
+
 // Turns a line's text into the other one by the count pieces at p, and
 // writes the pieces that turn it back behind *pInverse if there is one.
 // Returns where the next line's record starts.
@@ -169,6 +176,11 @@ int CTextZone::ReplaceAllInPlace(const char* pszFind, const char* pszReplace, in
     int lastPos = firstStart;
     bool ok = true;
     for (;;) {
+        // Every line is opened: its object and then its bytes are asked for
+        // ahead, so that the memory waits overlap.
+        const int blockSize = m_pBlockSizes[b];
+        if (i + 16 < blockSize) __builtin_prefetch(m_ppBlocks[b][i + 16]);
+        if (i + 8 < blockSize) __builtin_prefetch(m_ppBlocks[b][i + 8]->c_str());
         CStringEx* pLine = m_ppBlocks[b][i];
         const int length = SlotLength(m_ppLengths[b][i]);
         const char* s = pLine->c_str();
@@ -299,17 +311,41 @@ void CTextZone::ReplayLineImages(const CUndoUnit& unit) {
     int i = 0;
     int L = -1;
     const char* const stop = text.data() + text.size();
-    for (const char* p = text.data() + kHeader; p + 2 * sizeof(int) <= stop;) {
-        const int nLine = GetInt(p);
-        const int count = GetInt(p + sizeof(int));
-        p += 2 * sizeof(int);
-        if (L < 0 ? !GetLineIndexes(nLine, &b, &i) : !AdvanceSlot(&b, &i, nLine - L)) break;
-        L = nLine;
-        PutInt(other, nLine);
-        PutInt(other, count);
-        // A line whose length changes tells the zone; it is found here.
-        RememberPlace(b, i);
-        p = SwapPieces(*m_ppBlocks[b][i], p, count, &other, scratch);
+    // The lines go in batches: their objects, then their bytes, are asked
+    // for ahead of the work, so that the memory waits overlap.
+    struct Pending {
+        CStringEx* pLine;
+        int b, i, nLine, count;
+        const char* p;
+    };
+    constexpr int kBatch = 32;
+    Pending batch[kBatch];
+    bool lost = false;
+    for (const char* p = text.data() + kHeader; !lost && p + 2 * sizeof(int) <= stop;) {
+        int k = 0;
+        for (; k < kBatch && p + 2 * sizeof(int) <= stop; ++k) {
+            const int nLine = GetInt(p);
+            const int count = GetInt(p + sizeof(int));
+            p += 2 * sizeof(int);
+            if (L < 0 ? !GetLineIndexes(nLine, &b, &i) : !AdvanceSlot(&b, &i, nLine - L)) {
+                lost = true;
+                break;
+            }
+            L = nLine;
+            batch[k] = {m_ppBlocks[b][i], b, i, nLine, count, p};
+            __builtin_prefetch(batch[k].pLine);
+            p = SkipPieces(p, count);
+        }
+        for (int j = 0; j < k; ++j)
+            __builtin_prefetch(batch[j].pLine->c_str());
+        for (int j = 0; j < k; ++j) {
+            const Pending& line = batch[j];
+            PutInt(other, line.nLine);
+            PutInt(other, line.count);
+            // A line whose length changes tells the zone; it is found here.
+            RememberPlace(line.b, line.i);
+            SwapPieces(*line.pLine, line.p, line.count, &other, scratch);
+        }
     }
     if (m_pCurrentOperation) FileUnit(*m_pCurrentOperation, std::move(pInverse));
 

@@ -211,7 +211,7 @@ TEST_F(ReplaceAllDifferentialTest, ColouredZoneKeepsItsLineStates) {
         1500, alphabet,
         [](CStateZone& zone) {
             zone.SetSQLSyntaxColor(14);
-            zone.StartWithWhat(zone.GetLineCount());
+            zone.StartWithWhat(zone.GetLineCount() - 1);
         },
         600);
 }
