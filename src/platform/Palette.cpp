@@ -27,19 +27,19 @@ UINT GetPaletteEntries(UINT nStart, UINT nEntries, PALETTEENTRY* pEntries) {
 }
 
 UINT GetNearestPaletteIndex(COLORREF cr) {
-    const int rgb[3] = {GetRValue(cr), GetGValue(cr), GetBValue(cr)};
+    const int r = GetRValue(cr), g = GetGValue(cr), b = GetBValue(cr);
+    const int nChroma = std::max({r, g, b}) - std::min({r, g, b});
     UINT nBest = 0;
-    int nBestMax = 1 << 30, nBestSquares = 1 << 30;
+    long nBestDistance = -1;
     for (UINT i = 0; i < kDefaultPaletteSize; ++i) {
         const PALETTEENTRY& e = kDefaultPalette[i];
-        const int d[3] = {std::abs(rgb[0] - e.peRed), std::abs(rgb[1] - e.peGreen),
-                          std::abs(rgb[2] - e.peBlue)};
-        const int nMax = std::max({d[0], d[1], d[2]});
-        const int nSquares = d[0] * d[0] + d[1] * d[1] + d[2] * d[2];
-        if (nMax < nBestMax || (nMax == nBestMax && nSquares < nBestSquares)) {
+        const int dr = r - e.peRed, dg = g - e.peGreen, db = b - e.peBlue;
+        const int dc = nChroma - (std::max({e.peRed, e.peGreen, e.peBlue}) -
+                                  std::min({e.peRed, e.peGreen, e.peBlue}));
+        const long nDistance = static_cast<long>(dr) * dr + dg * dg + db * db + dc * dc;
+        if (nBestDistance < 0 || nDistance < nBestDistance) {
             nBest = i;
-            nBestMax = nMax;
-            nBestSquares = nSquares;
+            nBestDistance = nDistance;
         }
     }
     return nBest;

@@ -12,8 +12,9 @@ constexpr UINT kDefaultPaletteSize = 20;
 UINT GetDefaultPaletteSize();
 // Copies up to nEntries from nStart; returns the number copied (0 past the end).
 UINT GetPaletteEntries(UINT nStart, UINT nEntries, PALETTEENTRY* pEntries);
-// The entry nearest to the colour: the one whose largest channel difference
-// is least, ties going to the smaller sum of squared differences, then to
-// the lower index. So a light grey finds a grey rather than a tinted entry
-// that is nearer on two channels.
+// The entry nearest to the colour: the least sum of squared channel
+// differences plus the squared difference of their chroma (largest less
+// smallest channel), ties to the lower index. The chroma term keeps a grey
+// grey: the default margin colour 0xD0D0D0 finds silver, not the pale
+// green entry that is nearer channel by channel.
 UINT GetNearestPaletteIndex(COLORREF cr);
