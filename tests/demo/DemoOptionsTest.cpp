@@ -43,8 +43,12 @@ TEST_F(DemoTest, ToolsOptionsChangesTheOpenEditorOnApply) {
     EXPECT_EQ(pTabSize->text(), "4");
     pTabSize->setFocus();
     QTest::keyClick(pTabSize, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClicks(pTabSize, "8");
+    QTest::keyClicks(pTabSize, "6");
     EXPECT_TRUE(pDialog->ApplyButton()->isEnabled());
+    // The arrow keys step it as the spin's arrows do.
+    QTest::keyClick(pTabSize, Qt::Key_Up);
+    QTest::keyClick(pTabSize, Qt::Key_Up);
+    EXPECT_EQ(pTabSize->text(), "8");
 
     // The comment colour (the list's first item, selected) made red.
     auto* pList = qobject_cast<QListWidget*>(pDialog->ControlWidget(0, 1005));

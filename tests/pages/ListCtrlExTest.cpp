@@ -30,27 +30,29 @@ TEST_F(ListCtrlExTest, ColumnsComeFromTheHeaderInDialogUnits) {
     EXPECT_EQ(List().GetColumn(1).strTitle, "Text");
     // 90 and 220 horizontal dialog units at 6 pixels per 4 units.
     EXPECT_EQ(Widths(), (std::vector<int>{135, 330}));
-    // The list spans units 7 to 272, pixels 10 to 408; less the borders and a bar.
-    EXPECT_EQ(List().m_nClientWidth, 398 - 2 - 17);
+    // The list spans units 7 to 333, pixels 10 to 499; less the borders and a bar.
+    EXPECT_EQ(List().m_nClientWidth, 489 - 2 - 17);
     List().SetColumns("Other;10");
     EXPECT_EQ(List().GetColumnCount(), 2);
 }
 
 TEST_F(ListCtrlExTest, ProportionalColumnsShareTheWidthAndKeepADraggedRatio) {
-    // Wider than the columns (case 2): they fill the new width less 2.
+    // The columns (465) are narrower than the list (470): wider, they grow
+    // in proportion and keep the gap they had (case 1).
     Resize(600);
-    EXPECT_EQ(Widths(), (std::vector<int>{166, 410}));
-    // Narrower again (case 1): shrunk in the same ratio.
+    EXPECT_EQ(Widths(), (std::vector<int>{167, 406}));
     Resize(400);
-    EXPECT_EQ(Widths(), (std::vector<int>{107, 269}));
-    // The user drags the divider; the next resize keeps the new ratio.
+    EXPECT_EQ(Widths(), (std::vector<int>{108, 265}));
+    // The user drags the divider; the columns now fill more than the list,
+    // so the next, wider size takes them in the new ratio, filling it less 2
+    // (case 2).
     List().UserSetColumnWidth(0, 200);
     Resize(600);
-    EXPECT_EQ(Widths(), (std::vector<int>{245, 331}));
+    EXPECT_EQ(Widths(), (std::vector<int>{247, 329}));
     // Columns dragged wider than both the old and the new width: left alone.
     List().UserSetColumnWidth(0, 400);
     Resize(500);
-    EXPECT_EQ(Widths(), (std::vector<int>{400, 331}));
+    EXPECT_EQ(Widths(), (std::vector<int>{400, 329}));
 }
 
 TEST_F(ListCtrlExTest, RowsAreTabSeparatedWithHiddenExtraParts) {

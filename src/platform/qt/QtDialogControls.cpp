@@ -5,6 +5,7 @@
 #include <QFontDatabase>
 #include <QGroupBox>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -136,9 +137,34 @@ protected:
     }
 };
 
+// The arrow keys in the buddy edit step it, as the arrows do.
+class CArrowKeyFilter : public QObject {
+public:
+    CArrowKeyFilter(CSpinButtonCtrl* pSpin, QObject* pParent) : QObject(pParent), m_pSpin(pSpin) {}
+
+protected:
+    bool eventFilter(QObject* pObject, QEvent* pEvent) override {
+        if (pEvent->type() == QEvent::KeyPress) {
+            const int nKey = static_cast<QKeyEvent*>(pEvent)->key();
+            if (nKey == Qt::Key_Up || nKey == Qt::Key_Down) {
+                m_pSpin->UserStep(nKey == Qt::Key_Up ? 1 : -1);
+                return true;
+            }
+        }
+        return QObject::eventFilter(pObject, pEvent);
+    }
+
+private:
+    CSpinButtonCtrl* m_pSpin;
+};
+
 class CSpinView : public CQtControlView {
 public:
     CSpinView(CSpinButtonCtrl* pSpin, QWidget* pWidget) : CQtControlView(pSpin, pWidget) {
+        // The buddy comes before its arrows on the page.
+        if (QWidget* pBuddy = pWidget->parentWidget()->findChild<QWidget*>(
+                QString::number(pSpin->GetItem().nBuddy), Qt::FindDirectChildrenOnly))
+            pBuddy->installEventFilter(new CArrowKeyFilter(pSpin, pWidget));
         auto* pLayout = new QVBoxLayout(pWidget);
         pLayout->setContentsMargins(0, 0, 0, 0);
         pLayout->setSpacing(0);
@@ -380,6 +406,8 @@ std::unique_ptr<CQtControlView> CQtControlView::Create(CDialogControl* pControl,
     if (pView) {
         pView->Widget()->setObjectName(QString::number(pControl->GetDlgCtrlID()));
         pView->Refresh();
+        // A page shown before its controls were made would not show them.
+        pView->Widget()->show();
     }
     return pView;
 }

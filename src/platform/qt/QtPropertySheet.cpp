@@ -14,7 +14,7 @@ CQtPropertySheet::CQtPropertySheet(CPropertySheet& sheet, QWidget* pParent)
     setWindowTitle(QString::fromLatin1(sheet.GetCaption().c_str()));
     // The pages are laid out for an 8-point dialog font.
     QFont font = this->font();
-    font.setPixelSize(11);
+    font.setPixelSize(10);
     setFont(font);
 
     auto* pLayout = new QVBoxLayout(this);
