@@ -176,11 +176,13 @@ void CDemoWindow::ReportWord(const std::string& word) {
 }
 
 CQtPropertySheet* CDemoWindow::OpenOptions() {
-    if (m_pOptions) {
+    if (m_pOptions && m_pOptions->isVisible()) {
         m_pOptions->raise();
         m_pOptions->activateWindow();
         return m_pOptions;
     }
+    // A dialog that ended and waits for its deletion goes before its sheet.
+    delete m_pOptions;
     m_pOptionsSheet = std::make_unique<CPropertySheet>("Options");
     EditEx32_AddOptionPageTSQL(m_pOptionsSheet.get(), nullptr);
     EditEx32_AddFontPage(m_pOptionsSheet.get(), nullptr);

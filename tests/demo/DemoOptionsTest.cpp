@@ -86,6 +86,14 @@ TEST_F(DemoTest, ToolsOptionsChangesTheOpenEditorOnApply) {
     QTest::mouseClick(pDialog->OKButton(), Qt::LeftButton);
     Pump();
     EXPECT_EQ(sheet.GetResult(), IDOK);
+
+    // Opened again at once: a new sheet that reads what was saved.
+    CQtPropertySheet* pAgain = m_window.OpenOptions();
+    ASSERT_NE(pAgain, nullptr);
+    EXPECT_TRUE(pAgain->isVisible());
+    EXPECT_EQ(qobject_cast<QLineEdit*>(pAgain->ControlWidget(0, 1017))->text(), "8");
+    pAgain->reject();
+    Pump();
 }
 
 }  // namespace
