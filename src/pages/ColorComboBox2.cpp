@@ -41,8 +41,8 @@ COLORREF CColorComboBox2::GetSelectedColor() {
 
 COLORREF CColorComboBox2::ColorOfData(DWORD_PTR dwData, bool* pbFound) {
     PALETTEENTRY entry{};
-    const bool bFound = dwData < 0xFFFFFFFFu &&
-                        GetPaletteEntries(static_cast<UINT>(dwData), 1, &entry) == 1;
+    const bool bFound =
+        dwData < 0xFFFFFFFFu && GetPaletteEntries(static_cast<UINT>(dwData), 1, &entry) == 1;
     if (pbFound) *pbFound = bFound;
     return bFound ? RGB(entry.peRed, entry.peGreen, entry.peBlue) : GetSysColor(COLOR_WINDOWTEXT);
 }

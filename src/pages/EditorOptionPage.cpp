@@ -14,10 +14,15 @@ CEditorOptionPage::CEditorOptionPage(bool bTSQL, const char* pSection)
     : CPropertyPage(GetEditorOptionsDialog()),
       m_strSection(pSection ? pSection : "Editor"),
       m_nItemCount(bTSQL ? 9 : 8) {
-    static const char* const kLabels[kMaxItems] = {
-        "Comments",           nullptr,         "System datatypes", "Standard SQL keywords",
-        "Built-in functions", "Minor SQL keywords", "Special SQL keywords", "Strings",
-        "Identifier"};
+    static const char* const kLabels[kMaxItems] = {"Comments",
+                                                   nullptr,
+                                                   "System datatypes",
+                                                   "Standard SQL keywords",
+                                                   "Built-in functions",
+                                                   "Minor SQL keywords",
+                                                   "Special SQL keywords",
+                                                   "Strings",
+                                                   "Identifier"};
     for (int i = 0; i < kMaxItems; ++i)
         m_labels[i] = kLabels[i];
     m_labels[1] = bTSQL ? "T-SQL keywords" : "PL/SQL keywords";
@@ -40,8 +45,9 @@ void CEditorOptionPage::ReadSettings() {
     m_bUseSyntaxColor = ReadSettingInt(pszSection, "UseSyntaxColor", 1);
     // All nine whatever the variant, so the T-SQL colour survives a PL/SQL page.
     for (int i = 0; i < kMaxItems; ++i) {
-        const std::string strValue = ReadSettingString(pszSection, CEditorDefaults::kSyntaxColorKeys[i],
-                                                       CEditorDefaults::kSyntaxColorDefaults[i]);
+        const std::string strValue =
+            ReadSettingString(pszSection, CEditorDefaults::kSyntaxColorKeys[i],
+                              CEditorDefaults::kSyntaxColorDefaults[i]);
         m_crSyntax[i] = CEditorDefaults::ParseColor(strValue.c_str());
     }
 }
@@ -184,8 +190,9 @@ HBRUSH CEditorOptionPage::OnCtlColor(CDC* pDC, CDialogControl* pWnd, UINT nCtlCo
         // which the list has selected.
         const int nItem = m_nCurrentItem >= 0 && m_nCurrentItem < kMaxItems ? m_nCurrentItem : 0;
         pDC->SetBkMode(OPAQUE);
-        pDC->SetTextColor(m_crSyntax[nItem] == static_cast<COLORREF>(-1) ? GetSysColor(COLOR_WINDOWTEXT)
-                                                                         : m_crSyntax[nItem]);
+        pDC->SetTextColor(m_crSyntax[nItem] == static_cast<COLORREF>(-1)
+                              ? GetSysColor(COLOR_WINDOWTEXT)
+                              : m_crSyntax[nItem]);
     }
     return hBrush;
 }

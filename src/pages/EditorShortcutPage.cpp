@@ -135,14 +135,16 @@ void CEditorShortcutPage::OnOK() {
     WriteSettingString(m_strSection.c_str(), "EnableShortcuts", m_bEnable ? "1" : nullptr);
 
     // A data directory that is not there yet is made, so the list the user
-    // just edited is not lost.
+    // just edited is not lost. Without any data directory there is nowhere
+    // to write: the current directory is not the user's.
     const std::string strDirectory = DataDirectory();
+    HANDLE hFile = INVALID_HANDLE_VALUE;
     if (!strDirectory.empty()) {
         std::error_code ec;
         std::filesystem::create_directories(strDirectory, ec);
+        hFile = VESK_CreateFile(ShortcutFilePath().c_str(), GENERIC_WRITE, 0, nullptr,
+                                CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
     }
-    HANDLE hFile = VESK_CreateFile(ShortcutFilePath().c_str(), GENERIC_WRITE, 0, nullptr,
-                                   CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (hFile != INVALID_HANDLE_VALUE) {
         for (int i = 0; i < m_list.GetRowCount(); ++i) {
             std::string row = m_list.GetRowText(i);

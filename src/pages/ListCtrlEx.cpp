@@ -16,7 +16,8 @@ std::vector<std::string> SplitTabs(const std::string& text) {
     size_t nStart = 0;
     for (;;) {
         const size_t nTab = text.find('\t', nStart);
-        parts.push_back(text.substr(nStart, nTab == std::string::npos ? std::string::npos : nTab - nStart));
+        parts.push_back(
+            text.substr(nStart, nTab == std::string::npos ? std::string::npos : nTab - nStart));
         if (nTab == std::string::npos) return parts;
         nStart = nTab + 1;
     }
@@ -138,7 +139,8 @@ void CListCtrlEx::OnSize(UINT nType, int cx, int cy) {
     if (m_nColumns && !s_bInSize) {
         s_bInSize = true;
         const int nOld = m_nClientWidth;
-        const int nNew = cx - 2 * GetSystemMetrics(SM_CXBORDER) - GetSystemMetrics(SM_CXVSCROLL) - 3;
+        const int nNew =
+            cx - 2 * GetSystemMetrics(SM_CXBORDER) - GetSystemMetrics(SM_CXVSCROLL) - 3;
         m_nClientWidth = nNew;
         if (nOld != nNew) {
             bool bDragged = false;
@@ -146,7 +148,8 @@ void CListCtrlEx::OnSize(UINT nType, int cx, int cy) {
             std::vector<int> real(static_cast<size_t>(m_nColumns));
             for (int i = 0; i < m_nColumns; ++i) {
                 real[static_cast<size_t>(i)] = GetColumnWidth(i);
-                bDragged = bDragged || real[static_cast<size_t>(i)] != m_pWidths[static_cast<size_t>(i)];
+                bDragged =
+                    bDragged || real[static_cast<size_t>(i)] != m_pWidths[static_cast<size_t>(i)];
                 nSum += real[static_cast<size_t>(i)];
             }
             const int nCase = nSum < nOld ? 1 : nSum < nNew ? 2 : 0;
@@ -157,7 +160,8 @@ void CListCtrlEx::OnSize(UINT nType, int cx, int cy) {
             }
             int nFixed = 0;
             for (int i = 0; i < m_nColumns; ++i)
-                if (!m_pProportional[static_cast<size_t>(i)]) nFixed += m_pWidths[static_cast<size_t>(i)];
+                if (!m_pProportional[static_cast<size_t>(i)])
+                    nFixed += m_pWidths[static_cast<size_t>(i)];
             if (nCase != 0 && m_nBaseWidth > nFixed) {
                 int nTotal = 0;
                 for (int i = 0; i < m_nColumns; ++i) {

@@ -4,6 +4,6 @@
 #include "platform/DialogTemplate.h"
 
 // "Editor Font", "Editor Options", "Editor Shortcuts".
-const DLGTEMPLATE& GetEditorFontDialog();     // 4300
-const DLGTEMPLATE& GetEditorOptionsDialog();  // 4301
-const DLGTEMPLATE& GetEditorShortcutDialog(); // 4302
+const DLGTEMPLATE& GetEditorFontDialog();      // 4300
+const DLGTEMPLATE& GetEditorOptionsDialog();   // 4301
+const DLGTEMPLATE& GetEditorShortcutDialog();  // 4302

@@ -7,8 +7,10 @@ int CComboBox::AddItem(DWORD_PTR dwData) {
     if (GetItemStyle() & DIS_SORTED) {
         // After every item that does not sort after the new one.
         for (size_t i = 0; i < m_items.size(); ++i) {
-            COMPAREITEMSTRUCT cis{ODT_COMBOBOX, static_cast<UINT>(GetDlgCtrlID()), this,
-                                  static_cast<UINT>(-1), dwData, static_cast<UINT>(i), m_items[i]};
+            COMPAREITEMSTRUCT cis{ODT_COMBOBOX, static_cast<UINT>(GetDlgCtrlID()),
+                                  this,         static_cast<UINT>(-1),
+                                  dwData,       static_cast<UINT>(i),
+                                  m_items[i]};
             if (CompareItem(&cis) < 0) {
                 nAt = i;
                 break;
@@ -48,8 +50,14 @@ int CComboBox::SetItemData(int nIndex, DWORD_PTR dwData) {
 
 void CComboBox::DrawItemInto(CDC* pDC, int nIndex, const RECT& rc, bool bFocus) {
     if (nIndex < 0 || nIndex >= GetCount()) return;
-    DRAWITEMSTRUCT dis{ODT_COMBOBOX, static_cast<UINT>(GetDlgCtrlID()), static_cast<UINT>(nIndex),
-                       ODA_DRAWENTIRE, bFocus ? ODS_FOCUS | ODS_SELECTED : 0u, this, pDC, rc,
+    DRAWITEMSTRUCT dis{ODT_COMBOBOX,
+                       static_cast<UINT>(GetDlgCtrlID()),
+                       static_cast<UINT>(nIndex),
+                       ODA_DRAWENTIRE,
+                       bFocus ? ODS_FOCUS | ODS_SELECTED : 0u,
+                       this,
+                       pDC,
+                       rc,
                        m_items[static_cast<size_t>(nIndex)]};
     DrawItem(&dis);
 }

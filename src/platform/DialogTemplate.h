@@ -9,17 +9,17 @@
 #include "platform/Types.h"
 
 enum class DlgItemKind {
-    Group,        // a labelled frame round other items
-    Text,         // a plain label
+    Group,  // a labelled frame round other items
+    Text,   // a plain label
     PushButton,
     CheckBox,     // checks itself when clicked
     RadioButton,  // checks itself and unchecks the others of its group when clicked
     Edit,
     ListBox,
-    ComboBox,     // drop-down list, owner-drawn, items are their data
-    Static,       // a label whose font and colours the dialog chooses
-    UpDown,       // arrows that step the integer in their buddy edit
-    ListView,     // report view: columns with a header, rows
+    ComboBox,  // drop-down list, owner-drawn, items are their data
+    Static,    // a label whose font and colours the dialog chooses
+    UpDown,    // arrows that step the integer in their buddy edit
+    ListView,  // report view: columns with a header, rows
 };
 
 // Style bits of an item.

@@ -23,7 +23,8 @@ void CEdit::UserSetText(const char* pszText) {
             text = digits;
         }
     }
-    if (m_nLimit > 0 && static_cast<int>(text.size()) > m_nLimit) text.resize(static_cast<size_t>(m_nLimit));
+    if (m_nLimit > 0 && static_cast<int>(text.size()) > m_nLimit)
+        text.resize(static_cast<size_t>(m_nLimit));
     if (text == m_strText) {
         Invalidate();
         return;

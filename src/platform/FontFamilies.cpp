@@ -1,7 +1,7 @@
 #include "platform/FontFamilies.h"
 
-#include <cstring>
 #include <strings.h>
+#include <cstring>
 
 #include "platform/Messages.h"
 
@@ -20,17 +20,16 @@ IFontFamilySource* SetFontFamilySource(IFontFamilySource* pSource) {
 std::vector<FontFamilyInfo> GetBuiltInFontFamilies() {
     // The faces the headless backend measures: fixed ones every byte alike,
     // the others proportional.
-    return {{"Courier New", true, true},      {"Courier", true, false},
-            {"Fixedsys", true, false},        {"Lucida Console", true, true},
-            {"Arial", false, true},           {"MS Sans Serif", false, false},
-            {"System", false, false},         {"Tahoma", false, true},
-            {"Times New Roman", false, true}};
+    return {
+        {"Courier New", true, true},    {"Courier", true, false}, {"Fixedsys", true, false},
+        {"Lucida Console", true, true}, {"Arial", false, true},   {"MS Sans Serif", false, false},
+        {"System", false, false},       {"Tahoma", false, true},  {"Times New Roman", false, true}};
 }
 
 int EnumFontFamiliesA(HDC, const char* pszFamily, FONTENUMPROCA pfn, LPARAM lParam) {
     if (!pfn) return 0;
-    const std::vector<FontFamilyInfo> families = g_pSource ? g_pSource->GetFontFamilies()
-                                                           : GetBuiltInFontFamilies();
+    const std::vector<FontFamilyInfo> families =
+        g_pSource ? g_pSource->GetFontFamilies() : GetBuiltInFontFamilies();
     int nResult = 1;
     for (const FontFamilyInfo& family : families) {
         if (pszFamily && strcasecmp(pszFamily, family.strFace.c_str()) != 0) continue;

@@ -1,7 +1,7 @@
 #include "platform/ListBox.h"
 
-#include <algorithm>
 #include <strings.h>
+#include <algorithm>
 
 #include "platform/Messages.h"
 

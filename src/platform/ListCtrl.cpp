@@ -7,7 +7,8 @@
 
 int CListCtrl::InsertColumn(int nCol, const char* pszHeading, int nFormat, int nWidth) {
     nCol = std::clamp(nCol, 0, GetColumnCount());
-    m_columns.insert(m_columns.begin() + nCol, Column{pszHeading ? pszHeading : "", nFormat, nWidth});
+    m_columns.insert(m_columns.begin() + nCol,
+                     Column{pszHeading ? pszHeading : "", nFormat, nWidth});
     for (Row& row : m_rows)
         if (static_cast<int>(row.texts.size()) > nCol)
             row.texts.insert(row.texts.begin() + nCol, std::string());
@@ -40,7 +41,8 @@ int CListCtrl::InsertItem(int nItem, const char* pszItem) {
 BOOL CListCtrl::SetItemText(int nItem, int nSubItem, const char* pszText) {
     if (!ValidRow(nItem) || nSubItem < 0 || nSubItem >= std::max(1, GetColumnCount())) return FALSE;
     Row& row = m_rows[static_cast<size_t>(nItem)];
-    if (static_cast<int>(row.texts.size()) <= nSubItem) row.texts.resize(static_cast<size_t>(nSubItem) + 1);
+    if (static_cast<int>(row.texts.size()) <= nSubItem)
+        row.texts.resize(static_cast<size_t>(nSubItem) + 1);
     row.texts[static_cast<size_t>(nSubItem)] = pszText ? pszText : "";
     Invalidate();
     return TRUE;

@@ -3,7 +3,8 @@
 #include "platform/Messages.h"
 #include "platform/PropertyPage.h"
 
-CPropertySheet::CPropertySheet(const char* pszCaption) : m_strCaption(pszCaption ? pszCaption : "") {}
+CPropertySheet::CPropertySheet(const char* pszCaption)
+    : m_strCaption(pszCaption ? pszCaption : "") {}
 
 CPropertySheet::~CPropertySheet() = default;
 

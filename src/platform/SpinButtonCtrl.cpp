@@ -23,5 +23,6 @@ void CSpinButtonCtrl::UserStep(int nDelta) {
     if (!pBuddy || !IsWindowEnabled()) return;
     const int nLow = std::min(m_nLower, m_nUpper), nHigh = std::max(m_nLower, m_nUpper);
     const int nPos = std::clamp(GetPos() + nDelta, nLow, nHigh);
-    if (std::to_string(nPos) != pBuddy->GetText()) pBuddy->SetWindowText(std::to_string(nPos).c_str());
+    if (std::to_string(nPos) != pBuddy->GetText())
+        pBuddy->SetWindowText(std::to_string(nPos).c_str());
 }

@@ -10,7 +10,7 @@ class CStatic : public CDialogControl {
 public:
     struct Colors {
         COLORREF crText;
-        COLORREF crBk;     // behind the text when the mode is OPAQUE
+        COLORREF crBk;  // behind the text when the mode is OPAQUE
         int nBkMode;
         COLORREF crBrush;  // the rest of the control
     };

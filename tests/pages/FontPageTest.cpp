@@ -25,7 +25,9 @@ protected:
         GetObjectA(sample.GetFont(), sizeof lf, &lf);
         return lf;
     }
-    static int Index(const CListBox& list, const char* psz) { return list.FindStringExact(-1, psz); }
+    static int Index(const CListBox& list, const char* psz) {
+        return list.FindStringExact(-1, psz);
+    }
     static int IndexOfData(const CComboBox& combo, DWORD_PTR dwData) {
         for (int i = 0; i < combo.GetCount(); ++i)
             if (combo.GetItemData(i) == dwData) return i;
@@ -105,8 +107,8 @@ TEST_F(FontPageTest, EveryChoiceRebuildsTheSampleAndOkWritesTheKeysInOrder) {
     const int nHeard = ReloadsHeard();
     ASSERT_TRUE(m_sheet.PressOK());
     const std::vector<std::string> expected = {
-        "Editor/FontName=Arial",     "Editor/FontSize=20",       "Editor/FontBold=1",
-        "Editor/FontItalic=1",       "Editor/FontStrikeOut=0",   "Editor/FontUnderline=1",
+        "Editor/FontName=Arial",     "Editor/FontSize=20",        "Editor/FontBold=1",
+        "Editor/FontItalic=1",       "Editor/FontStrikeOut=0",    "Editor/FontUnderline=1",
         "Editor/FontSelBkgColor=-1", "Editor/FontSelFrgColor=-1", "Editor/FontNorBkgColor=65535",
         "Editor/FontNorFrgColor=-1"};
     EXPECT_EQ(TakeWrites(), expected);

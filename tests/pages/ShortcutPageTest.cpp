@@ -30,7 +30,8 @@ protected:
 };
 
 TEST_F(ShortcutPageTest, ListsTheFileByTheZonesLineRulesButKeepsEmptyParts) {
-    WriteFile(File(), "sel\tSELECT * FROM\r\nnotab\r\n\tempty key\r\nins\tINSERT INTO\tt\nupd\t\r\n");
+    WriteFile(File(),
+              "sel\tSELECT * FROM\r\nnotab\r\n\tempty key\r\nins\tINSERT INTO\tt\nupd\t\r\n");
     Open();
     EXPECT_EQ(Rows(), (std::vector<std::string>{"sel\tSELECT * FROM", "\tempty key",
                                                 "ins\tINSERT INTO\tt", "upd\t"}));
@@ -108,6 +109,17 @@ TEST_F(ShortcutPageTest, UncheckingRemovesTheKeyAndAMissingDirectoryIsMade) {
     ASSERT_TRUE(m_sheet.PressOK());
     EXPECT_EQ(TakeWrites(), (std::vector<std::string>{"Editor/EnableShortcuts"}));
     EXPECT_EQ(ReadFile(m_dir + "/new/ed_short.txt"), "k\ttext\r\n");
+}
+
+TEST_F(ShortcutPageTest, WithoutADataDirectoryNothingIsWrittenAndTheEditorsStillHear) {
+    m_store.SetDirectoryAvailable(false);
+    std::filesystem::remove("ed_short.txt");
+    Open();
+    Set("k", "text");
+    const int nHeard = ReloadsHeard();
+    ASSERT_TRUE(m_sheet.PressOK());
+    EXPECT_FALSE(std::filesystem::exists("ed_short.txt"));
+    EXPECT_EQ(ReloadsHeard(), nHeard + 1);
 }
 
 }  // namespace

@@ -69,8 +69,9 @@ protected:
         if (HFONT hFont = m_pStatic->GetFont()) font = CQtFonts::MakeQFont(hFont->lf);
         painter.setFont(font);
         const QString text = TextOf(m_pStatic->GetText());
-        const int nFlags = (m_pStatic->GetItemStyle() & DIS_CENTER ? Qt::AlignHCenter : Qt::AlignLeft) |
-                           Qt::AlignVCenter;
+        const int nFlags =
+            (m_pStatic->GetItemStyle() & DIS_CENTER ? Qt::AlignHCenter : Qt::AlignLeft) |
+            Qt::AlignVCenter;
         const QRect rcText = painter.boundingRect(rect(), nFlags, text);
         if (colors.nBkMode == OPAQUE) painter.fillRect(rcText, ColorOf(colors.crBk));
         painter.setPen(ColorOf(colors.crText));
@@ -95,8 +96,10 @@ public:
 
 protected:
     void Show() override {
-        if (auto* pLabel = qobject_cast<QLabel*>(Widget())) pLabel->setText(TextOf(Control()->GetText()));
-        if (auto* pGroup = qobject_cast<QGroupBox*>(Widget())) pGroup->setTitle(TextOf(Control()->GetText()));
+        if (auto* pLabel = qobject_cast<QLabel*>(Widget()))
+            pLabel->setText(TextOf(Control()->GetText()));
+        if (auto* pGroup = qobject_cast<QGroupBox*>(Widget()))
+            pGroup->setTitle(TextOf(Control()->GetText()));
         Widget()->update();
     }
 };
@@ -174,7 +177,8 @@ public:
             pArrow->setAutoRepeat(true);
             pArrow->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
             pLayout->addWidget(pArrow);
-            QObject::connect(pArrow, &QToolButton::clicked, [pSpin, nDelta] { pSpin->UserStep(nDelta); });
+            QObject::connect(pArrow, &QToolButton::clicked,
+                             [pSpin, nDelta] { pSpin->UserStep(nDelta); });
         }
     }
 
@@ -214,11 +218,12 @@ protected:
 class CComboView : public CQtControlView {
 public:
     CComboView(CComboBox* pCombo, QComboBox* pWidget) : CQtControlView(pCombo, pWidget) {
-        QObject::connect(pWidget, qOverload<int>(&QComboBox::activated), [this, pCombo](int nIndex) {
-            if (m_bRefreshing) return;
-            pCombo->UserSelect(nIndex);
-            Refresh();
-        });
+        QObject::connect(pWidget, qOverload<int>(&QComboBox::activated),
+                         [this, pCombo](int nIndex) {
+                             if (m_bRefreshing) return;
+                             pCombo->UserSelect(nIndex);
+                             Refresh();
+                         });
     }
 
 protected:
@@ -245,7 +250,8 @@ private:
         QImage image(size, QImage::Format_RGB32);
         image.fill(ColorOf(GetSysColor(COLOR_WINDOW)));
         if (CQtPlatform* pPlatform = CQtPlatform::Instance()) {
-            CQtDC dc(pPlatform->Fonts(), &image, CRgn(RECT{0, 0, size.width(), size.height()}), nullptr);
+            CQtDC dc(pPlatform->Fonts(), &image, CRgn(RECT{0, 0, size.width(), size.height()}),
+                     nullptr);
             pCombo->DrawItemInto(&dc, nIndex, RECT{0, 0, size.width(), size.height()}, false);
         }
         return image;
@@ -284,12 +290,14 @@ public:
         QObject::connect(pWidget, &QTreeWidget::itemSelectionChanged, [this, pList, pWidget] {
             if (m_bRefreshing) return;
             const QList<QTreeWidgetItem*> selected = pWidget->selectedItems();
-            if (!selected.isEmpty()) pList->UserSelectRow(pWidget->indexOfTopLevelItem(selected.front()));
+            if (!selected.isEmpty())
+                pList->UserSelectRow(pWidget->indexOfTopLevelItem(selected.front()));
             Refresh();
         });
-        QObject::connect(pWidget->header(), &QHeaderView::sectionResized, [this, pList](int nCol, int, int nWidth) {
-            if (!m_bRefreshing) pList->UserSetColumnWidth(nCol, nWidth);
-        });
+        QObject::connect(pWidget->header(), &QHeaderView::sectionResized,
+                         [this, pList](int nCol, int, int nWidth) {
+                             if (!m_bRefreshing) pList->UserSetColumnWidth(nCol, nWidth);
+                         });
     }
 
 protected:
@@ -299,7 +307,8 @@ protected:
         QStringList titles;
         for (int i = 0; i < pList->GetColumnCount(); ++i)
             titles << TextOf(pList->GetColumn(i).strTitle);
-        if (pWidget->columnCount() != pList->GetColumnCount()) pWidget->setColumnCount(pList->GetColumnCount());
+        if (pWidget->columnCount() != pList->GetColumnCount())
+            pWidget->setColumnCount(pList->GetColumnCount());
         pWidget->setHeaderLabels(titles);
         while (pWidget->topLevelItemCount() > pList->GetItemCount())
             delete pWidget->takeTopLevelItem(pWidget->topLevelItemCount() - 1);

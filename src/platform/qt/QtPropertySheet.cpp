@@ -57,8 +57,8 @@ CQtPropertySheet::~CQtPropertySheet() {
 
 QWidget* CQtPropertySheet::ControlWidget(int nPage, int nID) const {
     if (nPage < 0 || nPage >= static_cast<int>(m_pageWidgets.size())) return nullptr;
-    return m_pageWidgets[static_cast<size_t>(nPage)]->findChild<QWidget*>(QString::number(nID),
-                                                                          Qt::FindDirectChildrenOnly);
+    return m_pageWidgets[static_cast<size_t>(nPage)]->findChild<QWidget*>(
+        QString::number(nID), Qt::FindDirectChildrenOnly);
 }
 
 void CQtPropertySheet::accept() {
@@ -80,7 +80,8 @@ void CQtPropertySheet::PageCreated(int nPage) {
     CPropertyPage* pPage = m_sheet.GetPage(nPage);
     QWidget* pWidget = m_pageWidgets[static_cast<size_t>(nPage)];
     for (CDialogControl* pControl : pPage->GetControls())
-        if (auto pView = CQtControlView::Create(pControl, pWidget)) m_views.push_back(std::move(pView));
+        if (auto pView = CQtControlView::Create(pControl, pWidget))
+            m_views.push_back(std::move(pView));
 }
 
 void CQtPropertySheet::OnTabChanged(int nIndex) {
