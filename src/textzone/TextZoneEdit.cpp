@@ -221,9 +221,11 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
                     if (pPrev && pPrev->GetLength() != prevLength)
                         first = std::min(first, done - 1);
                 }
+                // The run ends on the line that holds this piece's end, which
+                // is above L when the piece flowed up into the line before.
                 // A run that cannot wrap (width 0) stops where it began, which
                 // may be the line above: the next piece still goes below L.
-                L = std::max(done, L) + 1;
+                L = (paragraphs && m_nMaxWidth >= 1 ? done : std::max(done, L)) + 1;
                 firstPass = false;
             }
             if (*p) result = 0;
