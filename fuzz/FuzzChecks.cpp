@@ -63,11 +63,15 @@ std::string CZoneFuzzer::Text() {
 }
 
 void CZoneFuzzer::CheckInvariants() {
-    if (s_bTrace)
+    if (s_nTrace > 0)
         std::fprintf(stderr, "    text '%s' lines %d sel %d,%d-%d,%d mode %d undo %zu\n",
                      Shown(Text()).c_str(), m_zone.m_nLineCount, m_zone.m_nSelStartLine, m_zone.m_nSelStartChar,
                      m_zone.m_nSelEndLine, m_zone.m_nSelEndChar, m_zone.m_nSelectionMode,
                      m_zone.m_undoList.size());
+    if (s_nTrace > 1)
+        for (int i = 0; i < m_zone.m_nLineCount; ++i)
+            std::fprintf(stderr, "      line %d: %d bytes '%s'\n", i, m_zone.GetLine(i)->GetLength(),
+                         Shown(m_zone.GetLine(i)->c_str()).c_str());
     CheckStore();
     CheckLengths();
     CheckSelection();

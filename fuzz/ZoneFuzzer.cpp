@@ -11,7 +11,7 @@
 #include "platform/headless/HeadlessPlatform.h"
 #include "textzone/TextZone.h"
 
-bool CZoneFuzzer::s_bTrace = false;
+int CZoneFuzzer::s_nTrace = 0;
 
 namespace {
 
@@ -83,7 +83,7 @@ void CZoneFuzzer::Trace(const char* pszFormat, ...) {
     std::vsnprintf(buffer, sizeof buffer, pszFormat, args);
     va_end(args);
     m_strLastOp = buffer;
-    if (s_bTrace) std::fprintf(stderr, "op: %s\n", buffer);
+    if (s_nTrace > 0) std::fprintf(stderr, "op: %s\n", buffer);
 }
 
 void CZoneFuzzer::Rebase() {

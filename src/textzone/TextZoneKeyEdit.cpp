@@ -121,6 +121,14 @@ void CTextZone::KeyBackDelete(int bBackspace) {
             DrawCaret(1, 1);
             return;
         }
+        if (ch > 0) {
+            // Behind the text a caret beyond the end only moves back; a line
+            // made for it would stand empty behind the last one, which may
+            // not even be ended.
+            m_nSelStartChar = m_nSelEndChar = m_nSelRootChar = ch - 1;
+            DrawCaret(1, 1);
+            return;
+        }
         pLine = InsertLine(line);
         if (!pLine) {
             DrawCaret(1, 1);

@@ -288,6 +288,21 @@ TEST_F(KeyEditTest, BackspaceAndDeleteWithinAndAtTheEdgesOfTheText) {
     ExpectCaret(0, 2);
     ExpectUndoRedo("ab\r", "ab");
 
+    // Further right on the place behind the text (where a box caret may
+    // stand) it only moves back: no line is made there, behind an unended
+    // line or an ended one.
+    for (const char* text : {"ab", "ab\r"}) {
+        m_zone.SetStyle(ZS_FREECARET);
+        m_zone.SetText(text);
+        m_zone.SetSelection(1, 1, 4, 4, TZ_SEL_BOX, 0);
+        Press(VK_BACK);
+        ExpectCaret(1, 3);
+        EXPECT_EQ(m_zone.GetLineCount(), 1);
+        EXPECT_EQ(CrText(), text);
+        EXPECT_EQ(m_zone.GetUndoType(), 0);
+        m_zone.SetStyle(0);
+    }
+
     // Behind a wrapped line, Delete takes the next line's first byte.
     m_zone.SetText("x\rcd\r");
     m_zone.GetLine(0)->assign("ab", 2);
