@@ -425,8 +425,9 @@ void CTextZone::KeyTab(int bShift) {
             const int before = pLine->GetLength();
             PadText(*pLine, ch);
             AddLength(*this, pLine->GetLength() - before);
-            // Undo takes the padding out together with the tab.
-            if (!UndoByOffsets())
+            // Undo takes the padding out together with the tab. A root on
+            // the line above (whose end typing behind the text added) stays.
+            if (m_nSelRootLine == line && !UndoByOffsets())
                 m_nSelRootChar = std::min(m_nSelRootChar, std::max(0, before - pLine->IsEnded()));
             const int limit = m_bUndoing ? INT_MAX : GetLineLimit();
             if (GetTabConvert()) {

@@ -58,6 +58,12 @@ TEST_F(KeyEditTest, TypingBehindTheTextEndsTheLastLineOrPadsToTheColumn) {
     Type("c");
     EXPECT_EQ(CrText(), "ab\rc");
     ExpectUndoRedo("ab", "ab\rc");
+    // A tab there too: its undo takes the line end out again, not the line.
+    m_zone.SetText("ab");
+    Caret(0, 2);
+    Press(VK_RIGHT);
+    Press(VK_TAB);
+    ExpectUndoRedo("ab", "ab\r\t");
 
     m_zone.SetText("abcd\r");
     Caret(0, 3);
