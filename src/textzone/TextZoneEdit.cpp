@@ -130,9 +130,12 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
         if (pTail) {
             // The tail keeps what stood right of the caret until the text is in.
             int tailLength = pTail->GetLength();
-            int caretChar = m_nSelStartChar;
             // A free caret may stand beyond the text: blanks fill the gap, in
             // front of the line end, and undo takes them out with the text.
+            // They never take the line past its limit: a redo puts the
+            // same blanks back as text, and would have to cut that line.
+            const int caretChar =
+                std::min(m_nSelStartChar, std::max(TextLength(*pLine), TZ_MAX_LINE_LENGTH - 1));
             if (m_nSelRootLine == L && !UndoByOffsets())
                 m_nSelRootChar = std::min(m_nSelRootChar, TextLength(*pLine));
             PadText(*pLine, caretChar);
@@ -284,6 +287,9 @@ void CTextZone::DeleteSelection(int bUpdate) {
     // the deletion starts where the line's text ends.
     if (pStart && m_nSelStartChar > TextLength(*pStart) && UndoByOffsets())
         m_nSelStartChar = TextLength(*pStart);
+    // Nor do the blanks take the line past its limit.
+    if (pStart && m_nSelStartChar > TZ_MAX_LINE_LENGTH - 1)
+        m_nSelStartChar = std::max(TextLength(*pStart), TZ_MAX_LINE_LENGTH - 1);
     if (pStart && m_nSelStartChar > TextLength(*pStart) && !UndoByOffsets()) {
         const int endLine = m_nSelEndLine, endChar = m_nSelEndChar;
         m_nSelRootLine = m_nSelEndLine = m_nSelStartLine;

@@ -156,3 +156,25 @@ TEST_F(UndoRoundTripTest, AWrappedDeletionFromBehindALineEndLeavesNoBlanks) {
     EXPECT_EQ(CrText(), "abxy\rd\r\r");
     ExpectRoundTrip(before);
 }
+
+TEST_F(UndoRoundTripTest, BlanksUpToAPlaceFarBehindTheLineStopAtTheLineLimit) {
+    // A host may place the selection far behind a line's end; the blanks
+    // that fill the gap would otherwise make a line that a redo, putting
+    // them back as text, has to cut.
+    const std::string before = "ab\r\ncd\r\n";
+    m_zone.SetText(before.c_str());
+    m_zone.SetSelection(0, 0, 70000, 70000, 0, 0);
+    Paste("\r\nx");
+    EXPECT_EQ(m_zone.GetLine(0)->GetLength(), TZ_MAX_LINE_LENGTH);
+    EXPECT_EQ(Line(1), "x\r");
+    ExpectRoundTrip(before);
+
+    m_zone.SetText(before.c_str());
+    m_zone.SetSelection(0, 1, 70000, 1, 0, 0);
+    m_zone.StartRegister(4);
+    m_zone.DeleteSelection(1);
+    m_zone.EndRegister();
+    // Blanks to the limit, then what stood behind the selection.
+    EXPECT_EQ(Line(0), "ab" + std::string(TZ_MAX_LINE_LENGTH - 3, ' ') + "d\r");
+    ExpectRoundTrip(before);
+}
