@@ -192,12 +192,10 @@ void CZoneFuzzer::StepText(CByteReader& in, int nOp) {
             std::string text = in.Text(8);
             m_editor.SendMessage(EM_REPLACESEL, 0, reinterpret_cast<LPARAM>(text.c_str()));
             // A host's replacement is no step of the history: the history
-            // goes. Undo all would lead back to the text as it is now, but
-            // that check stays off here while undo still leaves padding
-            // behind on inputs that reach it only this way.
+            // goes, and undo all leads back to the text as it is now.
             if (!m_zone.m_undoList.empty() || !m_zone.m_redoList.empty())
                 Fail("a host's replacement left a history behind");
-            m_bBaseValid = false;
+            Rebase();
             break;
         }
         default: {
