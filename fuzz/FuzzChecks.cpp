@@ -74,6 +74,7 @@ void CZoneFuzzer::CheckInvariants() {
                          Shown(m_zone.GetLine(i)->c_str()).c_str());
     CheckStore();
     CheckLengths();
+    CheckCheckValues();
     CheckSelection();
     CheckBlocks();
     if (m_zone.m_undoList.size() >= static_cast<std::size_t>(TZ_MAX_UNDO)) m_bBaseValid = false;
@@ -146,6 +147,15 @@ void CZoneFuzzer::CheckLengths() {
             Fail("running length " + std::to_string(running) + ", recount " +
                  std::to_string(m_zone.m_nCurrentLength));
     }
+}
+
+// The check values the zone keeps between changes against those read
+// afresh: a change that did not drop the kept values shows here.
+void CZoneFuzzer::CheckCheckValues() {
+    int size = 0, hash = 0, freshSize = 0, freshHash = 0;
+    m_zone.GetTextCRCValues(&size, &hash);
+    m_zone.ComputeTextCRCValues(&freshSize, &freshHash);
+    if (size != freshSize || hash != freshHash) Fail("the kept check values are stale");
 }
 
 void CZoneFuzzer::CheckSelection() {

@@ -40,6 +40,7 @@ private:
     void CheckInvariants();
     void CheckStore();
     void CheckLengths();
+    void CheckCheckValues();
     void CheckSelection();
     void CheckBlocks();
     void CheckHistory();
