@@ -440,6 +440,8 @@ void CTextZone::KeyTab(int bShift) {
                 pLine->InsertChar(ch++, '\t');
                 AddLength(*this, 1);
             }
+            // In line mode the old selection's end is still elsewhere.
+            m_nSelEndLine = line;
             m_nSelStartChar = m_nSelEndChar = ch;
             KeyRewrapTyped(line, created, &first, &last);
             RegisterUnit(TZ_UNIT_TYPED);

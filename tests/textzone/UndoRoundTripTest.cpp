@@ -108,6 +108,17 @@ TEST_F(UndoRoundTripTest, LineModeAndTheLineBehindTheTextRecordOnlyWhatChanged) 
     Type("x");  // line mode deletes nothing
     EXPECT_EQ(Text(), "xone\r\ntwo\r\nthree\r\n");
     ExpectRoundTrip(before);
+    // A tab likewise, also where wrap records by text offsets.
+    for (DWORD style : {DWORD{0}, ZS_PARAGRAPH}) {
+        m_zone.SetStyle(style);
+        m_zone.SetText(before.c_str());
+        m_zone.SetSelectionMode(0);
+        m_zone.SetSelection(0, 2, 1, 1, 0, 0);
+        Press(VK_TAB);
+        EXPECT_EQ(Text(), "o\tne\r\ntwo\r\nthree\r\n");
+        ExpectRoundTrip(before);
+    }
+    m_zone.SetStyle(0);
 
     // Shift+Down on the last line reaches the line behind the text at the
     // goal column; what replaces the selection took no blanks from there.
