@@ -73,7 +73,9 @@ void CTextZone::KeyRewrapTyped(int nLine, int bCreated, int* pnFirst, int* pnLas
 }
 
 void CTextZone::HandleChar(UINT nChar, UINT, UINT) {
-    if (nChar < 32 || nChar > 255 || m_bReadOnly) return;
+    // Control bytes are no typing, but a replay of the history puts back a
+    // deleted one (a host's text may hold any byte but 0 and line ends).
+    if ((nChar < 32 && !m_bUndoing) || nChar == 0 || nChar > 255 || m_bReadOnly) return;
     const char c = static_cast<char>(nChar);
     SetModify(1);
     StartRegister(TZ_EDIT_TYPING);

@@ -316,6 +316,15 @@ TEST_F(KeyEditTest, BackspaceAndDeleteWithinAndAtTheEdgesOfTheText) {
     Press(VK_DELETE);
     EXPECT_EQ(Line(1), "d\r");
     ExpectCaret(1, 0);
+
+    // A control byte of the host's text cannot be typed, but comes back.
+    m_zone.SetText("a\x0b");
+    Caret(0, 2);
+    Press(VK_BACK);
+    ExpectUndoRedo("a\x0b", "a");
+    Caret(0, 0);
+    Type("\x0b");
+    EXPECT_EQ(CrText(), "a");
 }
 
 TEST_F(KeyEditTest, TabTypesATabOrSpacesToTheNextStop) {
