@@ -1,59 +1,56 @@
-// The demo host: a main window with an editor control and, under it, a
-// report pane of results that link back into the editor; a File menu that
-// opens and saves 8-bit files, and a status line that tells the caret's
-// line and column and the language. The control works on a
-// coloured zone of the window's own; a file is coloured by its extension
-// unless a language was chosen.
+// The demo host: a small editor of several SQL (and other) texts at once.
+// Each text is an extended editor view in a window of its own inside the
+// main window; the menus offer files, the editor's Edit and View commands,
+// the language, the keyword case, and a report pane of the lines holding a
+// word, whose links lead back into the text.
 #pragma once
 
-#include <QLabel>
-#include <QMainWindow>
 #include <QString>
 #include <QTimer>
-
 #include <memory>
+#include <string>
 
 #include "apps/common/LanguageChoice.h"
+#include "apps/demo/DemoMainFrame.h"
+#include "apps/demo/QtDemoPrompts.h"
 #include "apps/demo/ReportPane.h"
-#include "colour/TextZoneColor.h"
-#include "editor/qt/QtEditorWidget.h"
+#include "platform/qt/QtMDIFrame.h"
 
-class CDemoWindow : public QMainWindow {
+class CDemoDocument;
+class CDemoView;
+
+// Built before the window, destroyed after it: the window shows the frame.
+struct CDemoFrameHolder {
+    CDemoMainFrame m_mainFrame;
+};
+
+class CDemoWindow : private CDemoFrameHolder, public CQtMDIFrame {
 public:
     explicit CDemoWindow(QWidget* pParent = nullptr);
     ~CDemoWindow() override;
 
-    CQtEditorWidget& EditorWidget() { return *m_pEditor; }
+    CDemoMainFrame& MainFrame() { return m_mainFrame; }
     CReportPane& Report() { return *m_pReport; }
-    // Lists the lines of the text that hold a word in the report pane.
-    void ReportWord(const std::string& word);
-    // Loads a file as it is, byte for byte; false if it cannot be read.
+    // Asks and tells through these from now on (tests script them).
+    void SetPrompts(IDemoPrompts* pPrompts);
+
+    // Opens a file in a window of its own; false if it cannot be read.
     bool OpenFile(const QString& path);
-    // Writes the text with the line ends the file was read with.
-    bool SaveFile(const QString& path);
-    // "Ln 3, Col 7", from the caret.
-    QString CaretText();
-    // Colours the text as this language from now on, whatever the files.
+    // Colours every text opened from now on, and the active one, as this.
     void SetLanguage(const CLanguageChoice& choice);
-    const CLanguageChoice& Language() const { return m_language; }
+    CDemoDocument* ActiveDocument();
+    CDemoView* ActiveView();
+    // Lists the lines of the active text that hold a word in the report pane.
+    void ReportWord(const std::string& word);
     // Renders the window into a PNG file.
     bool SaveScreenshot(const QString& path);
 
 private:
-    void UpdateStatus();
+    void BuildMenus();
     void UpdateTitle();
 
-    void ApplyLanguage(const CLanguageChoice& choice);
-
-    std::unique_ptr<CTextZoneColor> m_pZone;  // outlives the control that borrows it
-    CQtEditorWidget* m_pEditor;
+    CQtDemoPrompts m_qtPrompts;
+    IDemoPrompts* m_pPrompts;
     CReportPane* m_pReport;
-    QLabel* m_pStatus;
-    QLabel* m_pLanguage;
-    CLanguageChoice m_language;
-    bool m_bLanguageChosen = false;
-    QTimer m_statusTimer;
-    QString m_path;
-    bool m_bCrLf = false;
-    bool m_bFinalLineEnd = true;
+    QTimer m_titleTimer;
 };

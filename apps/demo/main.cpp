@@ -1,7 +1,9 @@
-// textzone-demo [FILE] [--lang ID] [--dialect N] [--screenshot FILE.png | --time-open]
-// Opens FILE in an editor window, coloured by its extension, or as the
-// language of --lang (a language id or an extension name: 1300, java) or the
-// SQL dialect of --dialect (150, -92, ...). Without a display, or with
+// textzone-demo [FILE...] [--lang ID] [--dialect N] [--screenshot FILE.png | --time-open]
+// Opens each FILE in an editor window of its own (an empty SQL text without
+// one), coloured by its extension, or as the language of --lang (a language
+// id or an extension name: 1300, java) or the SQL dialect of --dialect
+// (150, -92, ...). Settings come from the user's textzone.ini. Without a
+// display, or with
 // --screenshot, it renders the window offscreen into a PNG and exits. With
 // --time-open it opens FILE offscreen, waits for the editor's first paint,
 // closes the window and prints the times of both as JSON lines (for
@@ -16,10 +18,26 @@
 #include <cstring>
 #include <memory>
 
+#include <QMdiArea>
+#include <vector>
+
 #include "apps/demo/DemoWindow.h"
+#include "host/qt/QtAppDataManager.h"
 #include "platform/qt/QtPlatform.h"
 
 namespace {
+
+// A timed open has nobody to ask: what a dialog would say goes to stderr.
+class CStderrPrompts : public IDemoPrompts {
+public:
+    EAnswer AskSaveChanges(const std::string&) override { return EAnswer::Discard; }
+    std::string AskOpenPath() override { return std::string(); }
+    std::string AskSavePath(const std::string&) override { return std::string(); }
+    void Tell(const std::string& strTitle, const std::string& strText) override {
+        std::fprintf(stderr, "textzone-demo: %s: %s\n", strTitle.c_str(), strText.c_str());
+    }
+    bool Confirm(const std::string&, const std::string&) override { return false; }
+};
 
 using Clock = std::chrono::steady_clock;
 
@@ -49,12 +67,12 @@ int TimeOpen(QApplication& app, const char* pszFile, const CLanguageChoice* pLan
     auto window = std::make_unique<CDemoWindow>();
     window->resize(900, 600);
     if (pLanguage) window->SetLanguage(*pLanguage);
-    if (!window->OpenFile(QString::fromLocal8Bit(pszFile))) {
-        std::fprintf(stderr, "textzone-demo: cannot read %s\n", pszFile);
-        return 1;
-    }
+    // Cannot-read and what-the-editor-cannot-hold are said on stderr here.
+    CStderrPrompts prompts;
+    window->SetPrompts(&prompts);
+    if (!window->OpenFile(QString::fromLocal8Bit(pszFile))) return 1;
     const double opened = SecondsSince(t0);
-    CPaintWatch watch(&window->EditorWidget());
+    CPaintWatch watch(window->MdiArea());
     app.installEventFilter(&watch);
     window->show();
     // The first paint is the goal; a few rounds without one end the wait.
@@ -79,7 +97,7 @@ int TimeOpen(QApplication& app, const char* pszFile, const CLanguageChoice* pLan
 
 int main(int argc, char** argv) {
     const Clock::time_point t0 = Clock::now();
-    const char* pszFile = nullptr;
+    std::vector<const char*> files;
     const char* pszShot = nullptr;
     CLanguageChoice language;
     bool bLanguage = false;
@@ -105,15 +123,15 @@ int main(int argc, char** argv) {
                 return 2;
             }
         } else {
-            pszFile = argv[i];
+            files.push_back(argv[i]);
         }
     }
     if (bTimeOpen) {
-        if (!pszFile) return 1;
+        if (files.size() != 1) return 1;
         qputenv("QT_QPA_PLATFORM", "offscreen");
         QApplication app(argc, argv);
         CQtPlatform platform;
-        return TimeOpen(app, pszFile, bLanguage ? &language : nullptr, t0);
+        return TimeOpen(app, files.front(), bLanguage ? &language : nullptr, t0);
     }
     const bool bDisplay =
         !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
@@ -123,14 +141,15 @@ int main(int argc, char** argv) {
 
     QApplication app(argc, argv);
     CQtPlatform platform;
+    CQtAppDataManager::InstallForProcess();
     CDemoWindow window;
-    window.resize(900, 600);
+    window.resize(1000, 700);
     if (bLanguage) window.SetLanguage(language);
-    if (pszFile && !window.OpenFile(QString::fromLocal8Bit(pszFile))) {
-        std::fprintf(stderr, "textzone-demo: cannot read %s\n", pszFile);
-        return 1;
-    }
     window.show();
+    // A file that cannot be read is said in a dialog; the others still open.
+    for (const char* pszFile : files)
+        window.OpenFile(QString::fromLocal8Bit(pszFile));
+    if (files.empty()) window.MainFrame().NewDocument();
     if (!pszShot) return app.exec();
 
     // Let the first paints and layouts happen, then take the picture.

@@ -1388,6 +1388,16 @@ constexpr UINT ID_EDIT_SELECT_ALL = 0xE12A;
 constexpr UINT ID_EDIT_UNDO = 0xE12B;
 constexpr UINT ID_EDIT_REDO = 0xE12C;
 
+// How a command travels: carried out, or asked for its state in a menu,
+// a tool bar or a status pane. A query asks only whether a handler exists.
+constexpr int CN_COMMAND = 0;
+constexpr int CN_UPDATE_COMMAND_UI = -1;
+constexpr int CN_QUERY_HANDLER = -2;
+// The framework's idle message: command-UI states are brought up to date.
+constexpr UINT WM_IDLEUPDATECMDUI = 0x0363;
+// The first status bar pane of the framework (its message line).
+constexpr UINT ID_SEPARATOR = 0;
+
 // ---------------------------------------------------------------------------
 // Identities the engine relies on
 // ---------------------------------------------------------------------------

@@ -225,6 +225,24 @@ using HCURSOR = const CursorObject*;
 using HANDLE = void*;
 using HINSTANCE = void*;
 
+// A window's new place, as a move or size announces it.
+struct WINDOWPOS {
+    HWND hwnd = nullptr;
+    HWND hwndInsertAfter = nullptr;
+    int x = 0;
+    int y = 0;
+    int cx = 0;
+    int cy = 0;
+    UINT flags = 0;
+};
+
+// The rectangles of WM_NCCALCSIZE: the new window rectangle in, the client
+// rectangle out; then the valid source and destination rectangles.
+struct NCCALCSIZE_PARAMS {
+    RECT rgrc[3];
+    WINDOWPOS* lppos = nullptr;
+};
+
 // Scroll-bar state exchanged with SetScrollInfo/GetScrollInfo; fMask (SIF_*)
 // says which of the other fields count.
 struct SCROLLINFO {

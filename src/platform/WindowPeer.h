@@ -40,4 +40,8 @@ public:
     virtual void OnScrollBarChanged(int nBar) = 0;
     virtual void OnStyleChanged() = 0;
     virtual void OnCaretChanged() = 0;
+    // The window's text changed: a window with a title bar shows it.
+    virtual void OnTextChanged() {}
+    // A top-level window comes forward and takes the keyboard.
+    virtual void Activate() {}
 };

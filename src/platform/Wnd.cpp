@@ -5,6 +5,7 @@
 
 #include "platform/Caret.h"
 #include "platform/DC.h"
+#include "platform/FrameWnd.h"
 #include "platform/Messages.h"
 #include "platform/Platform.h"
 
@@ -164,8 +165,33 @@ void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, 
     }
 }
 
+void CWnd::SendMessageToAllWindows(UINT message, WPARAM wParam, LPARAM lParam) {
+    std::vector<CWnd*> windows = TopLevelWindows();
+    for (CWnd* pWnd : windows) {
+        auto& live = TopLevelWindows();
+        // One handler may close another window meanwhile.
+        if (std::find(live.begin(), live.end(), pWnd) == live.end()) continue;
+        pWnd->SendMessage(message, wParam, lParam);
+        pWnd->SendMessageToDescendants(message, wParam, lParam, TRUE);
+    }
+}
+
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    // A menu or accelerator command (no control in lParam) goes to the
+    // window's command handlers; frames route it further.
+    if (message == WM_COMMAND && lParam == 0 && OnCmdMsg(LOWORD(wParam), CN_COMMAND, nullptr))
+        return 0;
     return DefWindowProc(message, wParam, lParam);
+}
+
+BOOL CWnd::OnCmdMsg(UINT, int, CCmdUI*) {
+    return FALSE;
+}
+
+CFrameWnd* CWnd::GetParentFrame() const {
+    for (CWnd* pWnd = m_pParent; pWnd; pWnd = pWnd->m_pParent)
+        if (auto* pFrame = dynamic_cast<CFrameWnd*>(pWnd)) return pFrame;
+    return nullptr;
 }
 
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -221,8 +247,14 @@ BOOL CWnd::ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT) {
     return TRUE;
 }
 
+CWnd* CWnd::SetActiveWindow() {
+    if (m_pPeer) m_pPeer->Activate();
+    return nullptr;
+}
+
 void CWnd::SetWindowText(const char* psz) {
     m_strText = psz ? psz : "";
+    if (m_pPeer) m_pPeer->OnTextChanged();
 }
 
 int CWnd::GetWindowText(char* pszBuffer, int nMaxCount) const {

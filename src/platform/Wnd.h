@@ -12,7 +12,9 @@
 #include "platform/Types.h"
 #include "platform/WindowPeer.h"
 
+class CCmdUI;
 class CDC;
+class CFrameWnd;
 
 struct CREATESTRUCTA {
     void* lpCreateParams = nullptr;
@@ -63,15 +65,25 @@ public:
     BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     void SendMessageToDescendants(UINT message, WPARAM wParam = 0, LPARAM lParam = 0,
                                   BOOL bDeep = TRUE);
+    // To every window of the process: each top-level one and its descendants.
+    // A host on another toolkit may hold editors under several top-level
+    // windows, where the desktop would have one main window above them all.
+    static void SendMessageToAllWindows(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
     virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
     // Default processing of the message being handled.
     LRESULT Default();
+    // Carries out (CN_COMMAND), updates (CN_UPDATE_COMMAND_UI) or looks for
+    // (CN_QUERY_HANDLER) the handler of a command; TRUE when one was found.
+    // A window has none of its own; classes with command tables override it.
+    virtual BOOL OnCmdMsg(UINT nID, int nCode, CCmdUI* pCmdUI);
 
     // Relations and attributes.
     CWnd* GetParent() const { return m_pParent; }
     const std::vector<CWnd*>& GetChildren() const { return m_children; }
     CWnd* GetTopWindow() const { return m_children.empty() ? nullptr : m_children.front(); }
+    // The nearest frame window above this one, or null.
+    CFrameWnd* GetParentFrame() const;
     UINT GetDlgCtrlID() const { return m_nID; }
     void SetDlgCtrlID(UINT nID) { m_nID = nID; }
     DWORD GetStyle() const { return m_dwStyle; }
@@ -83,6 +95,8 @@ public:
     BOOL IsWindowEnabled() const { return m_bEnabled; }
     BOOL EnableWindow(BOOL bEnable = TRUE);
     BOOL ShowWindow(int nCmdShow);
+    // Brings a top-level window forward and gives it the keyboard.
+    CWnd* SetActiveWindow();
     BOOL IsWindowVisible() const;
 
     // Geometry. MoveWindow sends WM_SIZE when the client size changes.

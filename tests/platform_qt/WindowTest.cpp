@@ -170,13 +170,16 @@ TEST_F(WindowTest, OwnScrollBarsFollowTheWindowAndReportAsScrollMessages) {
     EXPECT_TRUE(bar->isVisible());
     EXPECT_EQ(std::vector<int>({bar->maximum(), bar->pageStep(), bar->value()}),
               std::vector<int>({90, 10, 20}));
-    // A click on the lower arrow asks the window; the bar stays where the window keeps it.
+    // A click on the lower arrow activates the window on its bar, then asks
+    // it to scroll; the bar stays where the window keeps it.
     m_wnd.ClearMessages();
     QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier,
                       QPoint(bar->width() / 2, bar->height() - 3));
     ASSERT_GE(m_wnd.Count(WM_VSCROLL), 2);
-    EXPECT_EQ(LOWORD(m_wnd.Messages()[0].wParam), SB_LINEDOWN);
-    EXPECT_EQ(LOWORD(m_wnd.Messages()[1].wParam), SB_ENDSCROLL);
+    ASSERT_EQ(m_wnd.Messages()[0].message, WM_MOUSEACTIVATE);
+    EXPECT_EQ(LOWORD(m_wnd.Messages()[0].lParam), HTVSCROLL);
+    EXPECT_EQ(LOWORD(m_wnd.Messages()[1].wParam), SB_LINEDOWN);
+    EXPECT_EQ(LOWORD(m_wnd.Messages()[2].wParam), SB_ENDSCROLL);
     EXPECT_EQ(bar->value(), 20);
     m_wnd.SetScrollPos(SB_VERT, 21);
     EXPECT_EQ(bar->value(), 21);

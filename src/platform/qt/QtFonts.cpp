@@ -102,7 +102,12 @@ void CQtFonts::Measure(Font& f, const LOGFONTA& lf) {
     QFontMetrics fm(f.font);
     TEXTMETRICA& tm = f.metrics.tm;
     tm.tmAscent = fm.ascent();
-    tm.tmDescent = fm.descent();
+    // Some faces draw the underscore below their descent at some sizes; the
+    // cell must hold every ASCII glyph, or the next line's fill cuts it off.
+    int descent = fm.descent();
+    for (char16_t ch = 0x21; ch < 0x7F; ++ch)
+        descent = std::max(descent, fm.boundingRect(QChar(ch)).bottom() + 1);
+    tm.tmDescent = descent;
     tm.tmHeight = tm.tmAscent + tm.tmDescent;
     tm.tmInternalLeading = std::max(0, tm.tmHeight - f.font.pixelSize());
     tm.tmExternalLeading = std::max(0, fm.leading());

@@ -1,6 +1,7 @@
 #include "platform/qt/QtScrollBar.h"
 
 #include <QCoreApplication>
+#include <QMouseEvent>
 #include <QWheelEvent>
 #include <algorithm>
 
@@ -44,6 +45,11 @@ void CQtScrollBar::wheelEvent(QWheelEvent* event) {
                           event->modifiers(), event->phase(), event->inverted(), event->source());
     QCoreApplication::sendEvent(parent, &forwarded);
     event->setAccepted(forwarded.isAccepted());
+}
+
+void CQtScrollBar::mousePressEvent(QMouseEvent* event) {
+    if (m_onPress) m_onPress();
+    QScrollBar::mousePressEvent(event);
 }
 
 void CQtScrollBar::OnAction(int action) {

@@ -19,11 +19,14 @@ public:
 
     // Shows the current state.
     void Reflect();
+    // Called when a button goes down on the bar, before the bar acts.
+    std::function<void()> m_onPress;
 
 protected:
     // The wheel over a bar is the window's, as on the desktop, where the
     // window's bars are part of it: it goes on to the parent.
     void wheelEvent(QWheelEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
 
 private:
     void OnAction(int action);

@@ -1,6 +1,7 @@
 #include "platform/qt/QtWidgetPeer.h"
 
 #include "platform/Messages.h"
+#include "platform/qt/Windows1252.h"
 
 int CQtWidgetPeer::s_nDispatching = 0;
 
@@ -78,4 +79,16 @@ bool CQtWidgetPeer::IsVisible() {
 
 void CQtWidgetPeer::Enable(bool bEnable) {
     m_pWidget->setEnabled(bEnable);
+}
+
+void CQtWidgetPeer::OnTextChanged() {
+    char szTitle[1024];
+    int n = m_pWnd->GetWindowText(szTitle, sizeof szTitle);
+    m_pWidget->setWindowTitle(CWindows1252::ToQString(szTitle, n));
+}
+
+void CQtWidgetPeer::Activate() {
+    QWidget* pWindow = m_pWidget->window();
+    pWindow->raise();
+    pWindow->activateWindow();
 }

@@ -52,8 +52,22 @@ CQtScrollBar* CQtWindowWidget::CreateBar(int nBar) {
     };
     auto* bar = new CQtScrollBar(nBar == SB_HORZ ? Qt::Horizontal : Qt::Vertical, this, report,
                                  state, arrows);
+    // A click on a bar activates the window as a click in it does.
+    bar->m_onPress = [this, nBar] {
+        CQtWidgetPeer::Dispatch dispatch;
+        MouseActivate(nBar == SB_HORZ ? HTHSCROLL : HTVSCROLL, WM_LBUTTONDOWN);
+    };
     bar->Reflect();
     return bar;
+}
+
+bool CQtWindowWidget::MouseActivate(int nHitTest, UINT message) {
+    if (!m_pWnd) return false;
+    CWnd* pTop = m_pWnd;
+    while (pTop->GetParent())
+        pTop = pTop->GetParent();
+    return Send(WM_MOUSEACTIVATE, reinterpret_cast<WPARAM>(pTop),
+                MAKELPARAM(nHitTest, static_cast<int>(message)));
 }
 
 void CQtWindowWidget::Detach() {

@@ -65,6 +65,9 @@ private:
     // One of the window's own bars (SB_HORZ, SB_VERT), reporting to it.
     CQtScrollBar* CreateBar(int nBar);
     void Key(QKeyEvent* event, bool bRelease);
+    // Tells the window a button went down on it (WM_MOUSEACTIVATE); false
+    // once the window is gone.
+    bool MouseActivate(int nHitTest, UINT message);
     void Mouse(QMouseEvent* event, int nKind);
     // Sends a message if the window is still there; false once it is gone.
     bool Send(UINT message, WPARAM wParam, LPARAM lParam);

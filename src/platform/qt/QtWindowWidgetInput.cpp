@@ -79,6 +79,7 @@ void CQtWindowWidget::Mouse(QMouseEvent* event, int nKind) {
         nKind == 3 ? WM_MOUSEMOVE : CQtEventTranslator::ButtonMessage(event->button(), nKind);
     if (message == 0) return;
     QPoint pt = ToClient(event->position());
+    if (nKind == 0 && !MouseActivate(HTCLIENT, message)) return;
     // The window chooses the cursor before each move and press, as on the
     // desktop; a window that does not gets the arrow.
     if (nKind == 0 || nKind == 3) {

@@ -1,0 +1,59 @@
+#include "editor/EditorInput.h"
+
+#include "completion/CompletionList.h"
+#include "platform/Messages.h"
+#include "platform/OleDataObject.h"
+#include "platform/Platform.h"
+#include "platform/Wnd.h"
+#include "textzone/TextZone.h"
+
+BOOL SetEditorCursor(UINT nHitTest) {
+    if (nHitTest != HTCLIENT) return FALSE;
+    ::SetCursor(LoadCursorA(nullptr, IsCompletionListShown() ? IDC_ARROW : IDC_IBEAM));
+    return TRUE;
+}
+
+BOOL RouteMouseWheel(CWnd* pSelf, CTextZone* pZone, UINT nFlags, short zDelta, CPoint pt) {
+    RECT rc;
+    pSelf->GetWindowRect(&rc);
+    const bool inside = pt.x >= rc.left && pt.x < rc.right && pt.y >= rc.top && pt.y < rc.bottom;
+    if (!inside) {
+        // The wheel scrolls what lies under the pointer, as far as this
+        // process owns it.
+        CWnd* pWnd = WindowFromPoint(pt);
+        const WPARAM wParam = MAKEWPARAM(static_cast<int>(nFlags), zDelta);
+        const LPARAM lParam = MAKELPARAM(pt.x, pt.y);
+        while (pWnd && pWnd != pSelf) {
+            if (pWnd->SendMessage(WM_MOUSEWHEEL, wParam, lParam)) return 1;
+            POINT client = pt;
+            pWnd->ScreenToClient(&client);
+            CWnd* pChild = pWnd->ChildWindowFromPoint(client);
+            pWnd = pChild == pWnd ? nullptr : pChild;
+        }
+        if (pWnd != pSelf) return 1;
+    }
+    // One line a message, whatever the size of the turn.
+    pZone->HandleVScroll(zDelta < 1 ? SB_LINEDOWN : SB_LINEUP, 0, nullptr);
+    return 1;
+}
+
+DWORD DropEffectFor(bool bAllowed, DWORD dwKeyState) {
+    if (!bAllowed) return DROPEFFECT_NONE;
+    return (dwKeyState & MK_CONTROL) ? DROPEFFECT_COPY : DROPEFFECT_MOVE;
+}
+
+bool CanDropText(COleDataObject* pDataObject, CTextZone* pZone, CPoint point) {
+    if (!pDataObject || !pDataObject->IsDataAvailable(CF_TEXT)) return false;
+    return pZone->IsOleDropAllowed(0, &point) != 0;
+}
+
+void SwitchSelectionMode(CWnd* pWnd, CTextZone* pZone, short wMode) {
+    short wFrom = wMode == 2 ? 1 : 2;
+    if (pZone->GetSelectionMode() != wFrom) return;
+    LONG lFirst = 0, lLast = 0;
+    pZone->GetSelection(&lFirst, &lLast, nullptr, nullptr, 0);
+    pWnd->HideCaret();
+    pZone->SetSelectionMode(wMode);
+    pZone->RedrawLines(lFirst, lLast, 1);
+    pZone->DrawCaret(1, 1);
+}
