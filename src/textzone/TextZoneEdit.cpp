@@ -162,7 +162,10 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
 
                 int srcLen = static_cast<int>(std::strcspn(p, "\r\n"));
                 int n = srcLen;
-                if (srcLen >= TZ_MAX_LINE_LENGTH - start)
+                // A replay puts back what was there, uncut: an insertion in
+                // the middle of a full line can leave a line longer than the
+                // limit an insertion cuts its own text at.
+                if (!m_bUndoing && srcLen >= TZ_MAX_LINE_LENGTH - start)
                     n = std::max(0, TZ_MAX_LINE_LENGTH - 1 - start);
                 // A source line too long for a line is ended here and goes on below.
                 if (start == 0 && pTarget->IsEmpty()) {

@@ -98,6 +98,14 @@ TEST_F(UndoRoundTripTest, TheLimitsDoNotStopAReplay) {
     Press(VK_DELETE);
     m_zone.Undo();
     EXPECT_EQ(m_zone.GetLine(0)->GetLength(), TZ_MAX_LINE_LENGTH + 1);
+    // Deleted whole, such a line comes back whole, not cut at the limit.
+    const std::string full = Text();
+    m_zone.FreeAllOperations();
+    m_zone.SetSelection(0, 1, 0, 0, 0, 0);
+    m_zone.StartRegister(4);
+    m_zone.DeleteSelection(1);
+    m_zone.EndRegister();
+    ExpectRoundTrip(full);
 }
 
 TEST_F(UndoRoundTripTest, LineModeAndTheLineBehindTheTextRecordOnlyWhatChanged) {
