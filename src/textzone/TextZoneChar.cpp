@@ -121,6 +121,14 @@ void CTextZone::HandleChar(UINT nChar, UINT, UINT) {
         if (m_pWnd && m_pWnd->GetSafeHwnd()) m_pWnd->UpdateWindow();
         return;
     }
+    // A full line takes nothing more, silently; asked before a line behind
+    // the text is made or the last line ended, which no undo would take back.
+    if (!m_bUndoing && std::max(pCaretLine ? pCaretLine->GetLength() : 0,
+                                m_nSelStartChar + (pCaretLine ? pCaretLine->IsEnded() : 0)) >=
+                           GetLineLimit()) {
+        EndRegister();
+        return;
+    }
     HideCaret();
     KeySetTypingRoot();
     int created = 0;

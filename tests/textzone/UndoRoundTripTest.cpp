@@ -200,3 +200,16 @@ TEST_F(UndoRoundTripTest, BlanksUpToAPlaceFarBehindTheLineStopAtTheLineLimit) {
     EXPECT_EQ(Line(0), "ab" + std::string(TZ_MAX_LINE_LENGTH - 3, ' ') + "d\r");
     ExpectRoundTrip(before);
 }
+
+TEST_F(UndoRoundTripTest, AByteTypedPastTheLineLimitBehindTheTextChangesNothing) {
+    // The place behind an unended (here empty) last line, far right: the
+    // byte is refused, and neither is that line ended nor a line made.
+    m_zone.SetText("\r");
+    m_zone.InsertLine(1);
+    m_zone.FreeAllOperations();
+    const std::string before = CrText();
+    m_zone.SetSelection(2, 2, TZ_MAX_PLACE, TZ_MAX_PLACE, 2, 0);
+    Type("a");
+    EXPECT_EQ(CrText(), before);
+    EXPECT_EQ(m_zone.GetLineCount(), 2);
+}
