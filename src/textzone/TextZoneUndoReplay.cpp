@@ -79,6 +79,12 @@ void RestoreLines(CTextZone& zone, const CUndoUnit& unit) {
         if (!pLine) break;
         pLine->assign(text.data() + pos, static_cast<int>(end - pos));
         pos = end + 1;
+        // A line that comes back unended was the last one: an empty line
+        // that an undone edit behind it left standing goes, or the text
+        // would hold a line without its end.
+        CStringEx* pNext = zone.GetLine(n + 1);
+        if (!pLine->IsEnded() && pNext && pNext->IsEmpty() && !zone.GetLine(n + 2))
+            zone.RemoveLines(n + 1, 1);
     }
 }
 
