@@ -4,6 +4,7 @@
 #include "platform/Messages.h"
 #include "platform/OleDataObject.h"
 #include "platform/Platform.h"
+#include "platform/ScrollBar.h"
 #include "platform/Wnd.h"
 #include "textzone/TextZone.h"
 
@@ -37,6 +38,34 @@ BOOL RouteMouseWheel(CWnd* pSelf, CTextZone* pZone, UINT nFlags, short zDelta, C
     return 1;
 }
 
+bool ForwardToZone(CTextZone& zone, UINT message, WPARAM wParam, LPARAM lParam,
+                   LRESULT* pResult) {
+    *pResult = 0;
+    switch (message) {
+        case WM_KILLFOCUS:
+            zone.HandleKillFocus(reinterpret_cast<CWnd*>(wParam));
+            return true;
+        case WM_LBUTTONDBLCLK: {
+            CPoint pt(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam));
+            zone.HandleLButtonDblClk(static_cast<UINT>(wParam), &pt);
+            return true;
+        }
+        case WM_HSCROLL:
+            zone.HandleHScroll(LOWORD(wParam), HIWORD(wParam),
+                               reinterpret_cast<CScrollBar*>(lParam));
+            return true;
+        case WM_VSCROLL:
+            zone.HandleVScroll(LOWORD(wParam), HIWORD(wParam),
+                               reinterpret_cast<CScrollBar*>(lParam));
+            return true;
+        case WM_USER:
+            *pResult = static_cast<LRESULT>(zone.HandleUserMessage(wParam, lParam));
+            return true;
+        default:
+            return false;
+    }
+}
+
 DWORD DropEffectFor(bool bAllowed, DWORD dwKeyState) {
     if (!bAllowed) return DROPEFFECT_NONE;
     return (dwKeyState & MK_CONTROL) ? DROPEFFECT_COPY : DROPEFFECT_MOVE;
@@ -56,4 +85,24 @@ void SwitchSelectionMode(CWnd* pWnd, CTextZone* pZone, short wMode) {
     pZone->SetSelectionMode(wMode);
     pZone->RedrawLines(lFirst, lLast, 1);
     pZone->DrawCaret(1, 1);
+}
+
+int InsertHostText(CWnd* pWnd, CTextZone* pZone, const char* pszText, int nFlag, int bRegister,
+                   int bModified, int nAtLine) {
+    pWnd->BeginWaitCursor();
+    if (bRegister) pZone->StartRegister(6);
+    pZone->CancelSelection(1);
+    // Box mode would insert the lines as a column; the host's text goes in
+    // as lines.
+    const bool bBox = pZone->GetSelectionMode() == 2;
+    if (bBox) pZone->SetSelectionMode(1);
+    if (nAtLine != -1) pZone->SetSelection(nAtLine, nAtLine, 0, 0, 0, 0);
+    const int nResult = pZone->InsertText(pszText, nFlag, 1, 1);
+    if (bRegister || bModified) {
+        pZone->SetModify(1);
+        if (bRegister) pZone->EndRegister();
+    }
+    if (bBox) pZone->SetSelectionMode(2);
+    pWnd->EndWaitCursor();
+    return nResult;
 }
