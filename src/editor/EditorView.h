@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "editor/OleEditDropTarget.h"
 #include "host/VeskView.h"
 #include "platform/CommandMap.h"
@@ -14,7 +15,7 @@
 class CFont;
 class CTextZone;
 
-class CEditorView : public CVeskView, public IOleEditDropSink {
+class TEXTZONE_EXPORT CEditorView : public CVeskView, public IOleEditDropSink {
 public:
     ~CEditorView() override;
 
