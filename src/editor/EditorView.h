@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "TextzoneExport.h"
+#include "editor/EditFindReplace.h"
 #include "editor/OleEditDropTarget.h"
 #include "host/VeskView.h"
 #include "platform/CommandMap.h"
@@ -15,9 +16,20 @@
 class CFont;
 class CTextZone;
 
-class TEXTZONE_EXPORT CEditorView : public CVeskView, public IOleEditDropSink {
+class TEXTZONE_EXPORT CEditorView : public CVeskView,
+                                    public IOleEditDropSink,
+                                    public IFindReplaceTarget {
 public:
     ~CEditorView() override;
+
+    // Find and replace, through the dialog the editors share.
+    void OnFindNext(const char* pszFind, int bNext, int bCase) override;
+    void OnReplaceSel(const char* pszFind, int bNext, int bCase, const char* pszReplace) override;
+    void OnReplaceAll(const char* pszFind, const char* pszReplace, int bCase) override;
+    // Beeps; nothing else.
+    void OnTextNotFound(const char* pszFind) override;
+    virtual void OnEditFindReplace(int bFindOnly);
+    int InitializeReplace() override;
 
     virtual void SetFont(CFont* pFont, int bRedraw);
 
@@ -71,7 +83,16 @@ protected:
     // The modified flag of the zone, once set, marks the document.
     void MarkDocumentIfModified();
 
+    CTextZone* GetFindZone() override { return m_pZone; }
+    CWnd* GetFindWindow() override { return this; }
+    void OnFindReplaceModified() override;
+    LRESULT OnFindReplaceCmd(WPARAM wParam, LPARAM lParam);
+
     // Commands.
+    void OnEditFind();
+    void OnEditReplace();
+    void OnEditRepeat();
+    void OnUpdateNeedFind(CCmdUI* pCmdUI);
     void OnEditClear();
     void OnEditCopy();
     void OnEditCut();

@@ -14,7 +14,10 @@ const CommandEntry<CEditorView> CEditorView::s_commands[] = {
     {ID_EDIT_CLEAR_ALL, &CEditorView::OnEditClear, &CEditorView::OnUpdateEditClear},
     {ID_EDIT_COPY, &CEditorView::OnEditCopy, &CEditorView::OnUpdateNeedSel},
     {ID_EDIT_CUT, &CEditorView::OnEditCut, &CEditorView::OnUpdateNeedSel},
+    {ID_EDIT_FIND, &CEditorView::OnEditFind, &CEditorView::OnUpdateNeedText},
     {ID_EDIT_PASTE, &CEditorView::OnEditPaste, &CEditorView::OnUpdateNeedClip},
+    {ID_EDIT_REPEAT, &CEditorView::OnEditRepeat, &CEditorView::OnUpdateNeedFind},
+    {ID_EDIT_REPLACE, &CEditorView::OnEditReplace, &CEditorView::OnUpdateNeedTextAndWrite},
     {ID_EDIT_SELECT_ALL, nullptr, &CEditorView::OnUpdateNeedText},
     {ID_EDIT_UNDO, &CEditorView::OnEditUndo, &CEditorView::OnUpdateEditUndo},
     {ID_EDIT_REDO, &CEditorView::OnEditRedo, &CEditorView::OnUpdateEditRedo},
@@ -84,4 +87,20 @@ void CEditorView::OnUpdateEditUndo(CCmdUI* pCmdUI) {
 
 void CEditorView::OnUpdateEditRedo(CCmdUI* pCmdUI) {
     pCmdUI->Enable(m_pZone->GetRedoType() != 0 && IsWindowEnabled());
+}
+
+void CEditorView::OnEditFind() {
+    OnEditFindReplace(TRUE);
+}
+
+void CEditorView::OnEditReplace() {
+    OnEditFindReplace(FALSE);
+}
+
+void CEditorView::OnEditRepeat() {
+    CEditFindReplace::Instance().Repeat(*this);
+}
+
+void CEditorView::OnUpdateNeedFind(CCmdUI* pCmdUI) {
+    pCmdUI->Enable(!CEditFindReplace::Instance().m_strFind.IsEmpty() && IsWindowEnabled());
 }

@@ -22,6 +22,8 @@ CPoint PointOf(LPARAM lParam) {
 }  // namespace
 
 LRESULT CEditorView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    static const UINT s_nFindReplace = RegisterWindowMessageA("commdlg_FindReplace");
+    if (message == s_nFindReplace) return OnFindReplaceCmd(wParam, lParam);
     CTextZone& zone = *m_pZone;
     switch (message) {
         case WM_CREATE:
@@ -121,6 +123,10 @@ LRESULT CEditorView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 void CEditorView::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
     m_pZone->HandleKeyDown(nChar, nRepCnt, nFlags);
     MarkDocumentIfModified();
+    // Ctrl+F3 searches for the selected text.
+    if (nChar == VK_F3 && GetKeyState(VK_CONTROL) < 0 && m_pZone->TestSelection() &&
+        m_pZone->GetSelectionMode() == 1)
+        CEditFindReplace::Instance().FindSelection(*this);
 }
 
 void CEditorView::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
@@ -130,6 +136,8 @@ void CEditorView::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
 
 void CEditorView::OnSetFocus(CWnd* pOldWnd) {
     m_pZone->HandleSetFocus(pOldWnd);
+    // The open dialog searches the editor with the focus.
+    CEditFindReplace::Instance().FollowFocus(this);
 }
 
 void CEditorView::OnMouseMove(UINT nFlags, CPoint point) {

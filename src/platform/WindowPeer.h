@@ -43,4 +43,6 @@ public:
     virtual void OnCaretChanged() = 0;
     // The window's text changed: a window with a title bar shows it.
     virtual void OnTextChanged() {}
+    // A top-level window comes forward and takes the keyboard.
+    virtual void Activate() {}
 };

@@ -247,6 +247,11 @@ BOOL CWnd::ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT) {
     return TRUE;
 }
 
+CWnd* CWnd::SetActiveWindow() {
+    if (m_pPeer) m_pPeer->Activate();
+    return nullptr;
+}
+
 void CWnd::SetWindowText(const char* psz) {
     m_strText = psz ? psz : "";
     if (m_pPeer) m_pPeer->OnTextChanged();

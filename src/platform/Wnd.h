@@ -96,6 +96,8 @@ public:
     BOOL IsWindowEnabled() const { return m_bEnabled; }
     BOOL EnableWindow(BOOL bEnable = TRUE);
     BOOL ShowWindow(int nCmdShow);
+    // Brings a top-level window forward and gives it the keyboard.
+    CWnd* SetActiveWindow();
     BOOL IsWindowVisible() const;
 
     // Geometry. MoveWindow sends WM_SIZE when the client size changes.

@@ -11,11 +11,13 @@
 
 #include "completion/qt/QtPickList.h"
 #include "platform/DC.h"
+#include "platform/FindReplaceDialog.h"
 #include "platform/GdiObjects.h"
 #include "platform/Messages.h"
 #include "platform/Wnd.h"
 #include "platform/qt/QtDC.h"
 #include "platform/qt/QtEventTranslator.h"
+#include "platform/qt/QtFindReplaceDialog.h"
 #include "platform/qt/QtScrollBarPeer.h"
 #include "platform/qt/QtSystemInfo.h"
 #include "platform/qt/QtWindowPeer.h"
@@ -89,6 +91,9 @@ int CQtPlatform::ScrollBarExtent() const {
 std::unique_ptr<IWindowPeer> CQtPlatform::CreateWindowPeer(CWnd* pWnd, const CREATESTRUCTA& cs) {
     if (cs.lpszClass && std::strcmp(cs.lpszClass, "SCROLLBAR") == 0)
         return std::make_unique<CQtScrollBarPeer>(*this, pWnd, cs);
+    if (cs.lpszClass && std::strcmp(cs.lpszClass, CFindReplaceDialog::kClassName) == 0 &&
+        dynamic_cast<CFindReplaceDialog*>(pWnd))
+        return std::make_unique<CQtFindReplacePeer>(*this, pWnd, cs);
     return std::make_unique<CQtWindowPeer>(*this, pWnd, cs);
 }
 

@@ -86,3 +86,9 @@ void CQtWidgetPeer::OnTextChanged() {
     int n = m_pWnd->GetWindowText(szTitle, sizeof szTitle);
     m_pWidget->setWindowTitle(CWindows1252::ToQString(szTitle, n));
 }
+
+void CQtWidgetPeer::Activate() {
+    QWidget* pWindow = m_pWidget->window();
+    pWindow->raise();
+    pWindow->activateWindow();
+}

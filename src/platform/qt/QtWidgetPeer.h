@@ -29,6 +29,7 @@ public:
     bool IsVisible() override;
     void Enable(bool bEnable) override;
     void OnTextChanged() override;
+    void Activate() override;
 
     // The peer of a window when it is a Qt one.
     static CQtWidgetPeer* Of(const CWnd* pWnd);
