@@ -11,7 +11,8 @@ void CEditorView::OnFindNext(const char* pszFind, int bNext, int bCase) {
     CEditFindReplace::Instance().FindNext(*this, pszFind, bNext, bCase);
 }
 
-void CEditorView::OnReplaceSel(const char* pszFind, int bNext, int bCase, const char* pszReplace) {
+void CEditorView::OnReplaceSel(const char* pszFind, int bNext, int bCase,
+                               const char* pszReplace) {
     CEditFindReplace::Instance().ReplaceSel(*this, pszFind, bNext, bCase, pszReplace, true);
 }
 
