@@ -16,6 +16,7 @@
 
 #include "EngineDoc.h"
 #include "EngineSpeedBench.h"
+#include "ReplaceBench.h"
 #include "SqlText.h"
 #include "platform/headless/HeadlessPlatform.h"
 #include "textzone/TextZone.h"
@@ -235,6 +236,7 @@ int main(int argc, char** argv) {
         return WriteSql(std::atoi(argv[2]), argv[3]);
     Register();
     RegisterSpeedBench();
+    RegisterReplaceBench();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
     benchmark::RunSpecifiedBenchmarks();

@@ -57,3 +57,23 @@ void SwitchSelectionMode(CWnd* pWnd, CTextZone* pZone, short wMode) {
     pZone->RedrawLines(lFirst, lLast, 1);
     pZone->DrawCaret(1, 1);
 }
+
+int InsertHostText(CWnd* pWnd, CTextZone* pZone, const char* pszText, int nFlag, int bRegister,
+                   int bModified, int nAtLine) {
+    pWnd->BeginWaitCursor();
+    if (bRegister) pZone->StartRegister(6);
+    pZone->CancelSelection(1);
+    // Box mode would insert the lines as a column; the host's text goes in
+    // as lines.
+    const bool bBox = pZone->GetSelectionMode() == 2;
+    if (bBox) pZone->SetSelectionMode(1);
+    if (nAtLine != -1) pZone->SetSelection(nAtLine, nAtLine, 0, 0, 0, 0);
+    const int nResult = pZone->InsertText(pszText, nFlag, 1, 1);
+    if (bRegister || bModified) {
+        pZone->SetModify(1);
+        if (bRegister) pZone->EndRegister();
+    }
+    if (bBox) pZone->SetSelectionMode(2);
+    pWnd->EndWaitCursor();
+    return nResult;
+}

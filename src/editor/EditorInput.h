@@ -1,5 +1,6 @@
 // What the control and the view do alike under the mouse and a drag: the
-// cursor, the wheel, and the effect a drag of text would have.
+// cursor, the wheel, and the effect a drag of text would have; and what the
+// extended control and view do alike with text from the host.
 #pragma once
 
 #include "platform/Types.h"
@@ -21,3 +22,8 @@ bool CanDropText(COleDataObject* pDataObject, CTextZone* pZone, CPoint point);
 // Box (2) or stream (1) selection, switched only from the other mode, with
 // the selected lines redrawn in their new shape.
 void SwitchSelectionMode(CWnd* pWnd, CTextZone* pZone, short wMode);
+// The host's text at the caret, or at the start of line nAtLine unless that
+// is -1, as lines whatever the selection mode; bRegister makes it one undo
+// step and marks the text modified, bModified only marks it. The zone's result.
+int InsertHostText(CWnd* pWnd, CTextZone* pZone, const char* pszText, int nFlag, int bRegister,
+                   int bModified, int nAtLine);

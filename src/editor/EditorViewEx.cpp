@@ -1,6 +1,7 @@
 // The extended view's set-up, its settings and its text insertion.
 #include "editor/EditorViewEx.h"
 
+#include "editor/EditorInput.h"
 #include "platform/Messages.h"
 #include "platform/Platform.h"
 #include "zones/TextZoneParam.h"
@@ -58,19 +59,5 @@ LRESULT CEditorViewEx::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 
 int CEditorViewEx::InsertText(const VESK::String& text, int nFlag, int bRegister, int bModified,
                               int nAtLine) {
-    CTextZoneParam& zone = *m_pParamZone;
-    BeginWaitCursor();
-    if (bRegister) zone.StartRegister(6);
-    zone.CancelSelection(1);
-    const bool bBox = zone.GetSelectionMode() == 2;
-    if (bBox) zone.SetSelectionMode(1);
-    if (nAtLine != -1) zone.SetSelection(nAtLine, nAtLine, 0, 0, 0, 0);
-    int nResult = zone.InsertText(text.c_str(), nFlag, 1, 1);
-    if (bRegister || bModified) {
-        zone.SetModify(1);
-        if (bRegister) zone.EndRegister();
-    }
-    if (bBox) zone.SetSelectionMode(2);
-    EndWaitCursor();
-    return nResult;
+    return InsertHostText(this, m_pParamZone, text.c_str(), nFlag, bRegister, bModified, nAtLine);
 }

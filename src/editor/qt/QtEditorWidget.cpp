@@ -20,11 +20,15 @@ LOGFONTA FixedFont(int nHeight) {
 }  // namespace
 
 CQtEditorWidget::CQtEditorWidget(QWidget* pParent, DWORD dwStyle, CTextZone* pZone)
-    : QWidget(pParent), m_editor(pZone) {
+    : CQtEditorWidget(std::make_unique<CEditor>(pZone), pParent, dwStyle) {}
+
+CQtEditorWidget::CQtEditorWidget(std::unique_ptr<CEditor> pEditor, QWidget* pParent,
+                                 DWORD dwStyle)
+    : QWidget(pParent), m_pEditor(std::move(pEditor)) {
     LOGFONTA lf = FixedFont(-15);
     m_font.CreateFontIndirect(&lf);
     m_host.m_hFont = m_font;
-    m_host.m_pEditor = &m_editor;
+    m_host.m_pEditor = m_pEditor.get();
 
     // The host window is made on its own and then taken into this widget, so
     // that Qt lays it out while the control sees an ordinary parent.
@@ -38,19 +42,19 @@ CQtEditorWidget::CQtEditorWidget(QWidget* pParent, DWORD dwStyle, CTextZone* pZo
     }
     RECT rc;
     m_host.GetClientRect(&rc);
-    m_editor.Create(WS_CHILD | WS_VISIBLE | dwStyle, rc, &m_host, 1);
-    if (QWidget* pEditorWidget = CQtPlatform::WidgetOf(&m_editor)) setFocusProxy(pEditorWidget);
+    m_pEditor->Create(WS_CHILD | WS_VISIBLE | dwStyle, rc, &m_host, 1);
+    if (QWidget* pEditorWidget = CQtPlatform::WidgetOf(m_pEditor.get())) setFocusProxy(pEditorWidget);
 }
 
 CQtEditorWidget::~CQtEditorWidget() {
-    m_editor.DestroyWindow();
+    m_pEditor->DestroyWindow();
     m_host.DestroyWindow();
 }
 
 void CQtEditorWidget::SetEditorFont(const LOGFONTA& lf) {
     m_font.CreateFontIndirect(&lf);
     m_host.m_hFont = m_font;
-    m_editor.SetFont(&m_font, 1);
+    m_pEditor->SetFont(&m_font, 1);
 }
 
 LRESULT CQtEditorWidget::CHostWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {

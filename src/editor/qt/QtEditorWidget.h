@@ -6,6 +6,7 @@
 
 #include <QWidget>
 #include <functional>
+#include <memory>
 
 #include "TextzoneQtExport.h"
 #include "editor/Editor.h"
@@ -21,10 +22,14 @@ public:
     explicit CQtEditorWidget(QWidget* pParent = nullptr,
                              DWORD dwStyle = WS_VSCROLL | WS_HSCROLL | WS_BORDER,
                              CTextZone* pZone = nullptr);
+    // Hosts a control the caller made, of any class derived from CEditor (a
+    // CEditorEx, say), not yet created; the widget creates and owns it.
+    explicit CQtEditorWidget(std::unique_ptr<CEditor> pEditor, QWidget* pParent = nullptr,
+                             DWORD dwStyle = WS_VSCROLL | WS_HSCROLL | WS_BORDER);
     ~CQtEditorWidget() override;
 
-    CEditor& Editor() { return m_editor; }
-    CTextZone& Zone() { return *m_editor.GetZone(); }
+    CEditor& Editor() { return *m_pEditor; }
+    CTextZone& Zone() { return *m_pEditor->GetZone(); }
     // Called after every user action that changed the text (EN_CHANGE).
     void SetChangeHandler(std::function<void()> handler) { m_host.m_onChange = std::move(handler); }
     // The font the control takes at its set-up; a fixed font by default.
@@ -41,5 +46,5 @@ private:
 
     CFont m_font;
     CHostWnd m_host;
-    CEditor m_editor;
+    std::unique_ptr<CEditor> m_pEditor;
 };
