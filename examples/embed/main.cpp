@@ -1,5 +1,5 @@
 // textzone-embed [--exit-after-ms N]
-// The smallest Qt host: an editor control in a window of its own, with the
+// The smallest Qt host: the extended editor in a window of its own, with the
 // user's settings. With --exit-after-ms it closes after N ms and prints the
 // text the editor holds, which is how CI runs it offscreen.
 #include <QApplication>
@@ -8,25 +8,26 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "editor/qt/QtEditorWidget.h"
+#include "editor/EditorEx.h"
+#include "editor/qt/QtControlWidget.h"
 #include "host/qt/QtAppDataManager.h"
 #include "platform/qt/QtPlatform.h"
+#include "textzone/TextZone.h"  // the readers' text flags
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
+
     CQtPlatform platform;                    // windows become Qt widgets
     CQtAppDataManager::InstallForProcess();  // settings from ~/.config/textzone/textzone.ini
+    CQtControlWidget<CEditorEx> editor(nullptr, WS_VSCROLL | WS_HSCROLL);
+    editor.Control().InitEditor(10, 0, 1, 0);  // coloured as T-SQL
+    editor.Control().InsertText("SELECT *\r\nFROM t", 0, 1, 0, -1);
 
-    CQtEditorWidget editor;
-    editor.Editor().SetWindowTextA("SELECT *\r\nFROM t");
     editor.resize(640, 480);
     editor.show();
-
     if (argc == 3 && std::strcmp(argv[1], "--exit-after-ms") == 0) {
         QTimer::singleShot(std::atoi(argv[2]), &app, [&] {
-            VESK::String text;
-            editor.Editor().GetWindowTextA(text);
-            std::fputs(text.c_str(), stdout);
+            std::fputs(editor.Control().GetText(TF_LF | TF_NO_FINAL_END), stdout);
             app.quit();
         });
     }

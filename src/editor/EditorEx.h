@@ -9,6 +9,7 @@
 // EditorExFind.cpp (its part in the find dialog the editors share).
 #pragma once
 
+#include "TextzoneExport.h"
 #include "editor/EditFindReplace.h"
 #include "editor/Editor.h"
 #include "editor/EditorDefaults.h"
@@ -17,7 +18,9 @@
 class CCmdUI;
 class CTextZoneParam;
 
-class CEditorEx : public CEditor, public CEditorDefaults, public IFindReplaceTarget {
+class TEXTZONE_EXPORT CEditorEx : public CEditor,
+                                  public CEditorDefaults,
+                                  public IFindReplaceTarget {
 public:
     // With a zone it is borrowed; without one the control makes its own.
     explicit CEditorEx(CTextZoneParam* pZone = nullptr);
