@@ -64,6 +64,11 @@ void CEditFindReplace::FollowFocus(CWnd* pWnd) {
     if (m_pFindReplaceDlg) m_pFindReplaceDlg->m_hwndOwner = pWnd;
 }
 
+void CEditFindReplace::ForgetWindow(CWnd* pWnd) {
+    if (m_pFindReplaceDlg && m_pFindReplaceDlg->m_hwndOwner == pWnd)
+        m_pFindReplaceDlg->m_hwndOwner = nullptr;
+}
+
 LRESULT CEditFindReplace::OnFindReplaceCmd(IFindReplaceTarget& target, UINT message, WPARAM,
                                            LPARAM lParam) {
     if (!m_pFindReplaceDlg) return 0;

@@ -54,6 +54,9 @@ public:
     void Open(IFindReplaceTarget& target, int bFindOnly, bool bWithReplace);
     // The editor got the focus: an open dialog reports to it from now on.
     void FollowFocus(CWnd* pWnd);
+    // The editor's window is going: the dialog outlives it and must not
+    // report to it. The next editor to get the focus takes the dialog.
+    void ForgetWindow(CWnd* pWnd);
     // The answer to "commdlg_FindReplace" in an editor.
     LRESULT OnFindReplaceCmd(IFindReplaceTarget& target, UINT message, WPARAM wParam,
                              LPARAM lParam);

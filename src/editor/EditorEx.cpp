@@ -116,13 +116,9 @@ LRESULT CEditorEx::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
                         CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)));
             return nResult;
         }
-        case WM_DESTROY: {
-            // The find dialog outlives its editor; it must not report to a
-            // window that has gone. The next editor to get the focus takes it.
-            CEditFindReplaceDialog* pDlg = CEditFindReplace::Instance().m_pFindReplaceDlg;
-            if (pDlg && pDlg->m_hwndOwner == this) pDlg->m_hwndOwner = nullptr;
+        case WM_DESTROY:
+            CEditFindReplace::Instance().ForgetWindow(this);
             return CEditor::WindowProc(message, wParam, lParam);
-        }
         case WM_SETFOCUS: {
             LRESULT nResult = CEditor::WindowProc(message, wParam, lParam);
             // An open find dialog searches the editor the user is in.

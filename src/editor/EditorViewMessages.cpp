@@ -28,6 +28,9 @@ LRESULT CEditorView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_CREATE:
             return OnCreate(reinterpret_cast<CREATESTRUCT*>(lParam));
+        case WM_DESTROY:
+            CEditFindReplace::Instance().ForgetWindow(this);
+            return CVeskView::WindowProc(message, wParam, lParam);
         case WM_ERASEBKGND: {
             auto* pDC = reinterpret_cast<CDC*>(wParam);
             if (!pDC) return 1;

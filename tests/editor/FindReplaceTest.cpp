@@ -197,6 +197,25 @@ TEST_F(FindReplaceTest, AnActionHeardByAnotherWindowGoesToTheOwner) {
     EXPECT_EQ(Dialog(), nullptr);
 }
 
+TEST_F(FindReplaceTest, TheDialogOutlivesTheEditorItSearched) {
+    SetText(m_pA, "abc");
+    Activate(m_pB);
+    m_main.SendMessage(WM_COMMAND, ID_EDIT_FIND, 0);
+    ASSERT_EQ(Dialog()->m_hwndOwner, m_pB);
+    m_pB->GetParentFrame()->SendMessage(WM_CLOSE);
+    m_platform.PumpMessages();
+    // The editor that got the focus next owns it; the gone one is forgotten.
+    ASSERT_NE(Dialog(), nullptr);
+    EXPECT_EQ(Dialog()->m_hwndOwner, m_pA);
+    Dialog()->DoAction(FR_FINDNEXT, "abc", "", TRUE, FALSE);
+    EXPECT_EQ(Selected(m_pA), "abc");
+    // Without any editor left, an action goes nowhere.
+    m_pA->GetParentFrame()->SendMessage(WM_CLOSE);
+    m_platform.PumpMessages();
+    EXPECT_EQ(Dialog()->m_hwndOwner, nullptr);
+    Dialog()->DoAction(FR_FINDNEXT, "abc", "", TRUE, FALSE);
+}
+
 TEST_F(FindReplaceTest, CtrlF3SearchesForTheSelection) {
     CTextZoneParam& zone = *m_pB->GetTextZone();
     SetText(m_pB, "abc x abc");
