@@ -13,6 +13,7 @@
 #include "editor/EditFindReplace.h"
 #include "editor/Editor.h"
 #include "editor/EditorDefaults.h"
+#include "editor/EditorPrinting.h"
 #include "host/VeskString.h"
 
 class CCmdUI;
@@ -20,7 +21,8 @@ class CTextZoneParam;
 
 class TEXTZONE_EXPORT CEditorEx : public CEditor,
                                   public CEditorDefaults,
-                                  public IFindReplaceTarget {
+                                  public IFindReplaceTarget,
+                                  public IPrintClient {
 public:
     // With a zone it is borrowed; without one the control makes its own.
     explicit CEditorEx(CTextZoneParam* pZone = nullptr);
@@ -95,7 +97,27 @@ public:
     void OnEditRepeat();
     void OnUpdateEditRepeat(CCmdUI* pCmdUI);
 
+    // Printing, with a print loop of its own since a control is no view:
+    // the print dialog (none for the direct command), the pages, a window
+    // with Cancel. FilePrint is the public form; PrintTo runs a job the
+    // caller prepared (a PDF file, a printer by name).
+    void OnFilePrint(BOOL bDirect);
+    void FilePrint() { OnFilePrint(FALSE); }
+    void OnFilePrintDirect() { OnFilePrint(TRUE); }
+    BOOL PrintTo(CPrintInfo& info);
+    void OnUpdateFilePrint(CCmdUI* pCmdUI);
+    int DoPreparePrinting(CPrintInfo* pInfo);
+    BOOL OnPreparePrinting(CPrintInfo* pInfo) override;
+    void OnBeginPrinting(CDC* pDC, CPrintInfo* pInfo) override;
+    void OnPrepareDC(CDC* pDC, CPrintInfo* pInfo) override;
+    void OnPrint(CDC* pDC, CPrintInfo* pInfo) override;
+    void OnEndPrinting(CDC* pDC, CPrintInfo* pInfo) override;
+    int PaginateTo(CDC* pDC, CPrintInfo* pInfo);
+    UINT PrintInsideRect(CDC* pDC, RECT& rect, UINT nLine, UINT& nChar);
+
     int m_bOwnParamZone = 0;
+    // The page tables and the printer font.
+    CEditorPrinting m_printing;
 
 protected:
     int OnCreate(CREATESTRUCT* pcs);

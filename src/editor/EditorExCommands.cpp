@@ -38,6 +38,8 @@ const std::array kCommands = {
     Entry{ID_EDIT_REDO, &CEditorEx::OnEditRedo, &CEditorEx::OnUpdateEditRedo},
     Entry{ID_EDIT_FIND, &CEditorEx::OnEditFind, &CEditorEx::OnUpdateEditFind},
     Entry{ID_EDIT_REPEAT, &CEditorEx::OnEditRepeat, &CEditorEx::OnUpdateEditRepeat},
+    Entry{ID_FILE_PRINT, &CEditorEx::FilePrint, &CEditorEx::OnUpdateFilePrint},
+    Entry{ID_FILE_PRINT_DIRECT, &CEditorEx::OnFilePrintDirect, &CEditorEx::OnUpdateFilePrint},
 };
 
 }  // namespace

@@ -9,6 +9,7 @@
 
 #include "TextzoneExport.h"
 #include "editor/EditFindReplace.h"
+#include "editor/EditorPrinting.h"
 #include "editor/OleEditDropTarget.h"
 #include "host/VeskView.h"
 #include "platform/CommandMap.h"
@@ -56,10 +57,16 @@ public:
     // is taken as the view whose font gives the line height.
     static LRESULT CalcTextArea(CWnd* pWnd, BOOL bCalcValidRects, NCCALCSIZE_PARAMS* pParams);
 
-    std::vector<unsigned int> m_PageStartLine;
-    std::vector<unsigned int> m_PageStartChar;
-    HFONT m_hPrinterFont = nullptr;
-    HFONT m_hMirrorFont = nullptr;
+    // Printing: the page tables and the printer font live in m_printing.
+    BOOL OnPreparePrinting(CPrintInfo* pInfo) override;
+    void OnBeginPrinting(CDC* pDC, CPrintInfo* pInfo) override;
+    void OnPrepareDC(CDC* pDC, CPrintInfo* pInfo = nullptr) override;
+    void OnPrint(CDC* pDC, CPrintInfo* pInfo) override;
+    void OnEndPrinting(CDC* pDC, CPrintInfo* pInfo) override;
+    int PaginateTo(CDC* pDC, CPrintInfo* pInfo);
+    UINT PrintInsideRect(CDC* pDC, RECT& rect, UINT nLine, UINT& nChar);
+
+    CEditorPrinting m_printing;
     CTextZone* m_pZone = nullptr;
     int m_bCreated = 0;
     HFONT m_hFont = nullptr;

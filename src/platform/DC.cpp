@@ -398,3 +398,19 @@ BOOL GetTextExtentPoint32A(HDC hDC, const char* psz, int nCount, SIZE* pSize) {
 BOOL GetTextMetricsA(HDC hDC, TEXTMETRICA* ptm) {
     return hDC ? hDC->GetTextMetrics(ptm) : FALSE;
 }
+
+int CDC::StartDoc(const DOCINFOA*) {
+    return -1;
+}
+int CDC::StartPage() {
+    return -1;
+}
+int CDC::EndPage() {
+    return -1;
+}
+int CDC::EndDoc() {
+    return -1;
+}
+int CDC::AbortDoc() {
+    return -1;
+}

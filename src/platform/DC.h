@@ -15,6 +15,7 @@
 #include "platform/Types.h"
 
 class CImageList;
+struct DOCINFOA;
 class CFont;
 class CBrush;
 class CPen;
@@ -100,6 +101,16 @@ public:
                   RECT* prcUpdate);
 
     virtual int GetDeviceCaps(int nIndex);
+    // Logical units are device pixels (MM_TEXT): nothing to convert.
+    void DPtoLP(RECT*) const {}
+
+    // Printing. A printer's context has a document of pages; any other
+    // refuses with -1.
+    virtual int StartDoc(const DOCINFOA* pInfo);
+    virtual int StartPage();
+    virtual int EndPage();
+    virtual int EndDoc();
+    virtual int AbortDoc();
 
 protected:
     // The region this context may draw on at all, set by whoever made it.

@@ -189,3 +189,7 @@ BOOL DeleteDC(HDC hDC) {
     delete hDC;
     return TRUE;
 }
+
+std::unique_ptr<CDC> IPlatform::CreatePrinterDC(const CPrintDialogInfo&) {
+    return nullptr;
+}

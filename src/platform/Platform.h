@@ -17,6 +17,7 @@ class CDC;
 class CWnd;
 class IWindowPeer;
 class COleDropTarget;
+struct CPrintDialogInfo;
 struct CREATESTRUCTA;
 
 using HOOKPROC = LRESULT (*)(int nCode, WPARAM wParam, LPARAM lParam);
@@ -89,6 +90,20 @@ public:
         (void)pParent, (void)rc, (void)hFont, (void)items;
         return -1;
     }
+
+    // Printing. The print dialog lets the user choose the printer (or a
+    // file) and the pages; FALSE when cancelled. A printer context for the
+    // choice, or null when there is no such printer.
+    virtual BOOL DoPrintDialog(CWnd* pParent, CPrintDialogInfo& pd) {
+        (void)pParent, (void)pd;
+        return FALSE;
+    }
+    virtual std::unique_ptr<CDC> CreatePrinterDC(const CPrintDialogInfo& pd);
+    // Handles what the window system has pending (a click on a cancel
+    // button during a long job).
+    virtual void PumpEvents() {}
+    // A message the user must read, with an OK button.
+    virtual void MessageBox(CWnd* pParent, const char* pszText) { (void)pParent, (void)pszText; }
 };
 
 // The installed platform, or null.

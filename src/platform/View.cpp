@@ -2,6 +2,7 @@
 
 #include "platform/Document.h"
 #include "platform/FrameWnd.h"
+#include "platform/CmdUI.h"
 #include "platform/Messages.h"
 #include "platform/PaintDC.h"
 
@@ -19,8 +20,8 @@ void CView::OnActivateView(BOOL bActivate, CView* pActivateView, CView*) {
 
 void CView::OnPrepareDC(CDC*, CPrintInfo*) {}
 
-BOOL CView::OnPreparePrinting(CPrintInfo*) {
-    return TRUE;
+BOOL CView::OnPreparePrinting(CPrintInfo* pInfo) {
+    return DoPreparePrinting(pInfo);
 }
 
 void CView::OnBeginPrinting(CDC*, CPrintInfo*) {}
@@ -31,8 +32,30 @@ void CView::OnPrint(CDC* pDC, CPrintInfo*) {
 
 void CView::OnEndPrinting(CDC*, CPrintInfo*) {}
 
+BOOL CView::DoPreparePrinting(CPrintInfo* pInfo) {
+    return CPrintJob::DoPreparePrinting(this, pInfo);
+}
+
+void CView::OnFilePrint(BOOL bDirect) {
+    CPrintInfo info;
+    info.m_bDirect = bDirect;
+    Print(info);
+}
+
+BOOL CView::Print(CPrintInfo& info) {
+    CWnd* pMain = this;
+    while (pMain->GetParent())
+        pMain = pMain->GetParent();
+    return CPrintJob::Run(*this, info, pMain);
+}
+
 BOOL CView::OnCmdMsg(UINT nID, int nCode, CCmdUI* pCmdUI) {
     if (CWnd::OnCmdMsg(nID, nCode, pCmdUI)) return TRUE;
+    // The framework's own print commands.
+    if ((nID == ID_FILE_PRINT || nID == ID_FILE_PRINT_DIRECT) && nCode != CN_UPDATE_COMMAND_UI) {
+        if (nCode == CN_COMMAND) OnFilePrint(nID == ID_FILE_PRINT_DIRECT);
+        return TRUE;
+    }
     return m_pDocument && m_pDocument->OnCmdMsg(nID, nCode, pCmdUI);
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "TextzoneExport.h"
+#include "platform/PrintJob.h"
 #include "platform/Wnd.h"
 
 class CDC;
@@ -16,7 +17,7 @@ struct TEXTZONE_EXPORT CCreateContext {
     CDocument* m_pCurrentDoc = nullptr;
 };
 
-class TEXTZONE_EXPORT CView : public CWnd {
+class TEXTZONE_EXPORT CView : public CWnd, public IPrintClient {
 public:
     // The id a frame gives the view that fills it.
     static constexpr UINT kPaneId = 0xE900;
@@ -28,11 +29,16 @@ public:
     virtual void OnDraw(CDC* pDC) = 0;
     virtual void OnActivateView(BOOL bActivate, CView* pActivateView, CView* pDeactiveView);
 
-    virtual void OnPrepareDC(CDC* pDC, CPrintInfo* pInfo = nullptr);
-    virtual BOOL OnPreparePrinting(CPrintInfo* pInfo);
-    virtual void OnBeginPrinting(CDC* pDC, CPrintInfo* pInfo);
-    virtual void OnPrint(CDC* pDC, CPrintInfo* pInfo);
-    virtual void OnEndPrinting(CDC* pDC, CPrintInfo* pInfo);
+    void OnPrepareDC(CDC* pDC, CPrintInfo* pInfo = nullptr) override;
+    BOOL OnPreparePrinting(CPrintInfo* pInfo) override;
+    void OnBeginPrinting(CDC* pDC, CPrintInfo* pInfo) override;
+    void OnPrint(CDC* pDC, CPrintInfo* pInfo) override;
+    void OnEndPrinting(CDC* pDC, CPrintInfo* pInfo) override;
+    // The framework's print command: the print dialog (none when bDirect),
+    // then the pages. Print runs a job prepared by the caller (a PDF file).
+    void OnFilePrint(BOOL bDirect);
+    BOOL Print(CPrintInfo& info);
+    BOOL DoPreparePrinting(CPrintInfo* pInfo);
 
     BOOL OnCmdMsg(UINT nID, int nCode, CCmdUI* pCmdUI) override;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;

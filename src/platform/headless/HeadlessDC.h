@@ -2,6 +2,8 @@
 // records into the window's display list; off screen into its own.
 #pragma once
 
+#include <utility>
+
 #include "TextzoneExport.h"
 #include "platform/DC.h"
 #include "platform/headless/DrawRecord.h"
@@ -15,6 +17,9 @@ public:
     const DisplayList& GetDisplayList() const { return *m_pList; }
 
 protected:
+    // Hands over what was recorded so far and starts an empty record.
+    DisplayList TakeDisplayList() { return std::exchange(*m_pList, DisplayList()); }
+
     const FontMetrics& MetricsOf(const LOGFONTA& lf) override;
     void DoFill(const RECT& rc, COLORREF cr) override;
     void DoText(int x, int y, const char* p, int n, int nWidth) override;

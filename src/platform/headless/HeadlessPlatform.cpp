@@ -1,5 +1,7 @@
 #include "platform/headless/HeadlessPlatform.h"
 
+#include "platform/PrintInfo.h"
+
 #include <algorithm>
 
 #include "platform/Messages.h"
@@ -354,4 +356,19 @@ int CHeadlessPlatform::RunPickList(CWnd* pParent, const RECT& rc, HFONT hFont,
     m_pickLists.push_back({pParent, rc, hFont, items});
     const int nChosen = m_pickListHandler ? m_pickListHandler(m_pickLists.back()) : -1;
     return nChosen >= 0 && nChosen < static_cast<int>(items.size()) ? nChosen : -1;
+}
+
+BOOL CHeadlessPlatform::DoPrintDialog(CWnd*, CPrintDialogInfo& pd) {
+    return m_printDialog ? m_printDialog(pd) : TRUE;
+}
+
+std::unique_ptr<CDC> CHeadlessPlatform::CreatePrinterDC(const CPrintDialogInfo&) {
+    if (m_bNoPrinter) return nullptr;
+    auto pJob = std::make_shared<HeadlessPrintJob>();
+    m_printJobs.push_back(pJob);
+    return std::make_unique<CHeadlessPrinterDC>(m_printerPage, pJob, m_onEndPage);
+}
+
+void CHeadlessPlatform::MessageBox(CWnd*, const char* pszText) {
+    m_messageBoxes.push_back(pszText ? pszText : "");
 }

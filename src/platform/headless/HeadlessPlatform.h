@@ -15,6 +15,7 @@
 
 #include "TextzoneExport.h"
 #include "platform/Platform.h"
+#include "platform/headless/HeadlessPrinter.h"
 #include "platform/headless/HeadlessWindowPeer.h"
 
 class TEXTZONE_EXPORT CHeadlessPlatform : public IPlatform {
@@ -76,6 +77,21 @@ public:
     void SetPickListHandler(PickListHandler handler) { m_pickListHandler = std::move(handler); }
     const std::vector<PickListRequest>& GetPickListRequests() const { return m_pickLists; }
 
+    // Printing. The print dialog asks the handler (without one it is
+    // accepted as it stands); the printer has the page set here, and each
+    // job made on it is recorded. onEndPage runs after each page.
+    using PrintDialogHandler = std::function<BOOL(CPrintDialogInfo& pd)>;
+    void SetPrintDialogHandler(PrintDialogHandler handler) { m_printDialog = std::move(handler); }
+    void SetPrinterPage(const CHeadlessPrinterDC::Page& page) { m_printerPage = page; }
+    void SetPrinterMissing(bool bMissing) { m_bNoPrinter = bMissing; }
+    void SetEndPageHandler(std::function<void(int nPage)> handler) {
+        m_onEndPage = std::move(handler);
+    }
+    const std::vector<std::shared_ptr<HeadlessPrintJob>>& GetPrintJobs() const {
+        return m_printJobs;
+    }
+    const std::vector<std::string>& GetMessageBoxes() const { return m_messageBoxes; }
+
     // Passes a key event through the installed keyboard hooks, as the system
     // would before the key reaches a window. Returns how many hooks ran.
     int InjectHookKey(int nVirtKey, bool bRelease);
@@ -113,10 +129,20 @@ public:
     void RevokeDropTarget(CWnd* pWnd) override;
     HHOOK SetKeyboardHook(HOOKPROC pfn) override;
     BOOL Unhook(HHOOK hHook) override;
+    BOOL DoPrintDialog(CWnd* pParent, CPrintDialogInfo& pd) override;
+    std::unique_ptr<CDC> CreatePrinterDC(const CPrintDialogInfo& pd) override;
+    void MessageBox(CWnd* pParent, const char* pszText) override;
     int RunPickList(CWnd* pParent, const RECT& rc, HFONT hFont,
                     const std::vector<std::string>& items) override;
 
 private:
+    PrintDialogHandler m_printDialog;
+    CHeadlessPrinterDC::Page m_printerPage;
+    bool m_bNoPrinter = false;
+    std::function<void(int)> m_onEndPage;
+    std::vector<std::shared_ptr<HeadlessPrintJob>> m_printJobs;
+    std::vector<std::string> m_messageBoxes;
+
     IPlatform* m_pPrevious;
     std::map<int, bool> m_keys;
     DWORD m_dwTick = 0;
