@@ -6,12 +6,15 @@
 #include "editor/EditorDefaults.h"
 #include "platform/FrameWnd.h"
 #include "platform/Messages.h"
+#include "platform/PrintInfo.h"
+#include "platform/View.h"
 #include "zones/TextZoneParam.h"
 
 const CommandEntry<CDemoDocument> CDemoDocument::s_commands[] = {
     {ID_FILE_SAVE, &CDemoDocument::OnFileSave, nullptr},
     {ID_FILE_SAVE_AS, &CDemoDocument::OnFileSaveAs, nullptr},
     {ID_FILE_CLOSE, &CDemoDocument::OnFileClose, nullptr},
+    {ID_FILE_EXPORT_PDF, &CDemoDocument::OnFileExportPdf, nullptr},
     {ID_INDICATOR_LINEEND, nullptr, &CDemoDocument::OnUpdateLineEnd},
     {ID_INDICATOR_LANGUAGE, nullptr, &CDemoDocument::OnUpdateLanguage},
 };
@@ -121,4 +124,24 @@ void CDemoDocument::OnUpdateLineEnd(CCmdUI* pCmdUI) {
 
 void CDemoDocument::OnUpdateLanguage(CCmdUI* pCmdUI) {
     pCmdUI->SetText(m_language.Name().c_str());
+}
+
+void CDemoDocument::OnFileExportPdf() {
+    std::string strSuggested = GetPathName().empty() ? GetTitle() : GetPathName();
+    const size_t nDot = strSuggested.find_last_of('.');
+    if (nDot != std::string::npos && strSuggested.find('/', nDot) == std::string::npos)
+        strSuggested.erase(nDot);
+    std::string strPath = m_prompts.AskSavePath(strSuggested + ".pdf");
+    if (!strPath.empty() && !ExportPdf(strPath))
+        m_prompts.Tell("Export to PDF", "The text could not be printed to " + strPath + ".");
+}
+
+bool CDemoDocument::ExportPdf(const std::string& strPath) {
+    for (CView* pView : GetViews()) {
+        CPrintInfo info;
+        info.m_bDirect = TRUE;
+        info.m_pd.strOutputFile = strPath;
+        return pView->Print(info);
+    }
+    return false;
 }

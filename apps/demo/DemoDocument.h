@@ -44,6 +44,10 @@ public:
     void OnFileSave() { Save(); }
     void OnFileSaveAs() { SaveAs(); }
     void OnFileClose();
+    // Prints the text into a PDF file the user names.
+    void OnFileExportPdf();
+    // Prints into the PDF file named, as Print would; false if it failed.
+    bool ExportPdf(const std::string& strPath);
     void OnUpdateLineEnd(CCmdUI* pCmdUI);
     void OnUpdateLanguage(CCmdUI* pCmdUI);
 

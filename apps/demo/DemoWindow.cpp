@@ -103,7 +103,10 @@ void CDemoWindow::BuildMenus() {
                                M::Command(ID_FILE_OPEN, "&Open...\tCtrl+O"),
                                M::Command(ID_FILE_SAVE, "&Save\tCtrl+S"),
                                M::Command(ID_FILE_SAVE_AS, "Save &As...\tCtrl+Shift+S"),
-                               M::Command(ID_FILE_CLOSE, "&Close"), M::Separator()}));
+                               M::Command(ID_FILE_CLOSE, "&Close"), M::Separator(),
+                               M::Command(ID_FILE_PRINT, "&Print...\tCtrl+P"),
+                               M::Command(ID_FILE_EXPORT_PDF, "&Export to PDF..."),
+                               M::Separator()}));
     QMenu* pFile = menuBar()->actions().front()->menu();
     pFile->addAction("&Quit", QKeySequence::Quit, this, [this] { close(); });
 

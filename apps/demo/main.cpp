@@ -131,6 +131,7 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         QApplication app(argc, argv);
         CQtPlatform platform;
+        CQtAppDataManager::InstallForProcess();
         return TimeOpen(app, files.front(), bLanguage ? &language : nullptr, t0);
     }
     const bool bDisplay =

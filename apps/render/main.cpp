@@ -1,7 +1,8 @@
-// textzone-render FILE [--lang ID] [--dialect N] (--png OUT.png [--width PX] | --html OUT.html)
+// textzone-render FILE [--lang ID] [--dialect N]
+//                 (--png OUT.png [--width PX] | --html OUT.html | --pdf OUT.pdf)
 // Renders a file in its colours without a display: a PNG through the Qt
 // backend on Qt's offscreen platform, or HTML, one <pre> with a <span> per
-// colour run. The language comes from the file's extension unless --lang
+// colour run; or prints it to PDF as the editor's Print does. The language comes from the file's extension unless --lang
 // (a language id or an extension name: 1300, java) or --dialect (a SQL
 // dialect: 150, -92, ...) chooses one.
 #include <QApplication>
@@ -13,6 +14,7 @@
 #include <iterator>
 
 #include "apps/render/FileRenderer.h"
+#include "apps/render/PdfPrint.h"
 #include "platform/qt/QtPlatform.h"
 
 namespace {
@@ -20,7 +22,7 @@ namespace {
 int Usage() {
     std::fprintf(stderr,
                  "usage: textzone-render FILE [--lang ID] [--dialect N] "
-                 "(--png OUT.png [--width PX] | --html OUT.html)\n");
+                 "(--png OUT.png [--width PX] | --html OUT.html | --pdf OUT.pdf)\n");
     return 2;
 }
 
@@ -30,6 +32,7 @@ int main(int argc, char** argv) {
     const char* pszFile = nullptr;
     const char* pszPng = nullptr;
     const char* pszHtml = nullptr;
+    const char* pszPdf = nullptr;
     int nWidth = 0;
     CLanguageChoice language;
     bool bLanguage = false;
@@ -40,6 +43,8 @@ int main(int argc, char** argv) {
             pszPng = argv[++i];
         } else if (is("--html")) {
             pszHtml = argv[++i];
+        } else if (is("--pdf")) {
+            pszPdf = argv[++i];
         } else if (is("--width")) {
             char* pEnd = nullptr;
             nWidth = static_cast<int>(std::strtol(argv[++i], &pEnd, 10));
@@ -65,7 +70,7 @@ int main(int argc, char** argv) {
             return Usage();
         }
     }
-    if (!pszFile || (!pszPng == !pszHtml) || (nWidth && !pszPng)) return Usage();
+    if (!pszFile || (!!pszPng + !!pszHtml + !!pszPdf) != 1 || (nWidth && !pszPng)) return Usage();
 
     std::ifstream in(pszFile, std::ios::binary);
     if (!in) {
@@ -80,6 +85,14 @@ int main(int argc, char** argv) {
     int qtArgc = 1;
     QApplication app(qtArgc, argv);
     CQtPlatform platform;
+    if (pszPdf) {
+        std::string error;
+        if (!PrintTextToPdf(text, pszPdf, &error)) {
+            std::fprintf(stderr, "textzone-render: %s\n", error.c_str());
+            return 1;
+        }
+        return 0;
+    }
     CFileRenderer renderer(text, language);
     if (pszPng) {
         const QImage image = renderer.Picture(nWidth);

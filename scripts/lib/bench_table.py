@@ -44,6 +44,7 @@ TASKS = [
     ("CtrlEnd", "Coloured T-SQL: Ctrl+End from the top, painted in colour (budget 1 s)"),
     ("TypeKeyword", "Keyword case (upper): a key of \"select \" typed in the middle, converted and repainted (budget 1 ms)"),
     ("RescanQuote", "Keyword case (upper): a quote typed in the middle, then Down, analysing every line below"),
+    ("PrintPdf", "Print the text to a PDF file (A4, 300 dpi; each lays its pages out its own way)"),
 ]
 
 

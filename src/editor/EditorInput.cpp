@@ -4,6 +4,7 @@
 #include "platform/Messages.h"
 #include "platform/OleDataObject.h"
 #include "platform/Platform.h"
+#include "platform/ScrollBar.h"
 #include "platform/Wnd.h"
 #include "textzone/TextZone.h"
 
@@ -35,6 +36,34 @@ BOOL RouteMouseWheel(CWnd* pSelf, CTextZone* pZone, UINT nFlags, short zDelta, C
     // One line a message, whatever the size of the turn.
     pZone->HandleVScroll(zDelta < 1 ? SB_LINEDOWN : SB_LINEUP, 0, nullptr);
     return 1;
+}
+
+bool ForwardToZone(CTextZone& zone, UINT message, WPARAM wParam, LPARAM lParam,
+                   LRESULT* pResult) {
+    *pResult = 0;
+    switch (message) {
+        case WM_KILLFOCUS:
+            zone.HandleKillFocus(reinterpret_cast<CWnd*>(wParam));
+            return true;
+        case WM_LBUTTONDBLCLK: {
+            CPoint pt(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam));
+            zone.HandleLButtonDblClk(static_cast<UINT>(wParam), &pt);
+            return true;
+        }
+        case WM_HSCROLL:
+            zone.HandleHScroll(LOWORD(wParam), HIWORD(wParam),
+                               reinterpret_cast<CScrollBar*>(lParam));
+            return true;
+        case WM_VSCROLL:
+            zone.HandleVScroll(LOWORD(wParam), HIWORD(wParam),
+                               reinterpret_cast<CScrollBar*>(lParam));
+            return true;
+        case WM_USER:
+            *pResult = static_cast<LRESULT>(zone.HandleUserMessage(wParam, lParam));
+            return true;
+        default:
+            return false;
+    }
 }
 
 DWORD DropEffectFor(bool bAllowed, DWORD dwKeyState) {

@@ -19,6 +19,12 @@ BOOL RouteMouseWheel(CWnd* pWnd, CTextZone* pZone, UINT nFlags, short zDelta, CP
 DWORD DropEffectFor(bool bAllowed, DWORD dwKeyState);
 // Whether a drag entering the window may drop here.
 bool CanDropText(COleDataObject* pDataObject, CTextZone* pZone, CPoint point);
+// The messages both windows pass to the zone as they come: the loss of the
+// focus, a double click, the scroll bars, the zone's own WM_USER. True with
+// the result when the message was one of them.
+bool ForwardToZone(CTextZone& zone, UINT message, WPARAM wParam, LPARAM lParam,
+                   LRESULT* pResult);
+
 // Box (2) or stream (1) selection, switched only from the other mode, with
 // the selected lines redrawn in their new shape.
 void SwitchSelectionMode(CWnd* pWnd, CTextZone* pZone, short wMode);

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "editor/Editor.h"
+#include "editor/EditorInput.h"
 #include "platform/Brush.h"
 #include "platform/DC.h"
 #include "platform/Messages.h"
@@ -42,6 +43,7 @@ void CEditor::PostChange() {
 
 LRESULT CEditor::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     CTextZone& zone = *m_pZone;
+    if (LRESULT lResult; ForwardToZone(zone, message, wParam, lParam, &lResult)) return lResult;
     switch (message) {
         case WM_ERASEBKGND:
             return OnEraseBkgnd(reinterpret_cast<CDC*>(wParam));
@@ -58,14 +60,6 @@ LRESULT CEditor::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
             LazyInit();
             zone.HandleSetFocus(reinterpret_cast<CWnd*>(wParam));
             return 0;
-        case WM_KILLFOCUS:
-            zone.HandleKillFocus(reinterpret_cast<CWnd*>(wParam));
-            return 0;
-        case WM_LBUTTONDBLCLK: {
-            CPoint pt = PointOf(lParam);
-            zone.HandleLButtonDblClk(static_cast<UINT>(wParam), &pt);
-            return 0;
-        }
         case WM_LBUTTONDOWN:
             OnLButtonDown(static_cast<UINT>(wParam), PointOf(lParam));
             return 0;
@@ -79,14 +73,6 @@ LRESULT CEditor::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         }
         case WM_RBUTTONDOWN:
-            return 0;
-        case WM_HSCROLL:
-            zone.HandleHScroll(LOWORD(wParam), HIWORD(wParam),
-                               reinterpret_cast<CScrollBar*>(lParam));
-            return 0;
-        case WM_VSCROLL:
-            zone.HandleVScroll(LOWORD(wParam), HIWORD(wParam),
-                               reinterpret_cast<CScrollBar*>(lParam));
             return 0;
         case WM_SIZE:
             OnSize(static_cast<UINT>(wParam), LOWORD(lParam), HIWORD(lParam));
@@ -180,8 +166,6 @@ LRESULT CEditor::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
                 zone.Paste();
             --m_nNotifyDepth;
             return 1;
-        case WM_USER:
-            return static_cast<LRESULT>(zone.HandleUserMessage(wParam, lParam));
         default:
             return CWnd::WindowProc(message, wParam, lParam);
     }

@@ -70,7 +70,7 @@ void CEditorPrinting::EndPrinting() {
 
 int CEditorPrinting::FittingLength(CDC* pDC, const char* p, int n, int nWidth, int nTabStop) {
     auto fits = [&](int k) { return pDC->GetTabbedTextExtent(p, k, 1, &nTabStop).cx <= nWidth; };
-    if (n <= 1 || fits(n)) return std::max(n, 1);
+    if (n <= 1 || fits(n)) return std::max(n, 0);
     // fits(lo) or lo == 1; !fits(hi).
     int lo = 1, hi = n;
     while (hi - lo > 1) {

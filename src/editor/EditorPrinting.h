@@ -33,8 +33,9 @@ public:
     // derived window sees them), up to pInfo->m_nCurPage; true if it exists.
     int PaginateTo(CTextZone& zone, IPrintClient& client, CDC* pDC, CPrintInfo* pInfo);
 
-    // How many of the n bytes at p fit in nWidth pixels, at least 1: the
-    // longest fitting run, found by halving (widths only grow with length).
+    // How many of the n bytes at p fit in nWidth pixels, at least 1 of a
+    // non-empty run: the longest fitting run, found by halving (widths only
+    // grow with length).
     static int FittingLength(CDC* pDC, const char* p, int n, int nWidth, int nTabStop);
 
     std::vector<unsigned int> m_PageStartLine;

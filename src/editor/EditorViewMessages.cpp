@@ -25,6 +25,7 @@ LRESULT CEditorView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     static const UINT s_nFindReplace = RegisterWindowMessageA("commdlg_FindReplace");
     if (message == s_nFindReplace) return OnFindReplaceCmd(wParam, lParam);
     CTextZone& zone = *m_pZone;
+    if (LRESULT lResult; ForwardToZone(zone, message, wParam, lParam, &lResult)) return lResult;
     switch (message) {
         case WM_CREATE:
             return OnCreate(reinterpret_cast<CREATESTRUCT*>(lParam));
@@ -56,9 +57,6 @@ LRESULT CEditorView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_SETFOCUS:
             OnSetFocus(reinterpret_cast<CWnd*>(wParam));
             return 0;
-        case WM_KILLFOCUS:
-            zone.HandleKillFocus(reinterpret_cast<CWnd*>(wParam));
-            return 0;
         case WM_LBUTTONDOWN: {
             CPoint pt = PointOf(lParam);
             SetFocus();
@@ -79,21 +77,8 @@ LRESULT CEditorView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
             MarkDocumentIfModified();
             return 0;
         }
-        case WM_LBUTTONDBLCLK: {
-            CPoint pt = PointOf(lParam);
-            zone.HandleLButtonDblClk(static_cast<UINT>(wParam), &pt);
-            return 0;
-        }
         case WM_MOUSEMOVE:
             OnMouseMove(static_cast<UINT>(wParam), PointOf(lParam));
-            return 0;
-        case WM_HSCROLL:
-            zone.HandleHScroll(LOWORD(wParam), HIWORD(wParam),
-                               reinterpret_cast<CScrollBar*>(lParam));
-            return 0;
-        case WM_VSCROLL:
-            zone.HandleVScroll(LOWORD(wParam), HIWORD(wParam),
-                               reinterpret_cast<CScrollBar*>(lParam));
             return 0;
         case WM_MOUSEACTIVATE:
             return OnMouseActivate(reinterpret_cast<CWnd*>(wParam), LOWORD(lParam),
@@ -116,8 +101,6 @@ LRESULT CEditorView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_GETDLGCODE:
             // No dialog manager stands round a view: Tab and Enter are text.
             return DLGC_WANTALLKEYS;
-        case WM_USER:
-            return static_cast<LRESULT>(zone.HandleUserMessage(wParam, lParam));
         default:
             return CVeskView::WindowProc(message, wParam, lParam);
     }

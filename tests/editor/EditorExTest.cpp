@@ -47,10 +47,10 @@ TEST_F(EditorExCommandTest, TheTableHasTheEditorsCommandsAndLeavesTheRestToTheHo
     for (UINT nID : {ID_EDIT_BOXMODE, ID_EDIT_STREAMMODE, ID_VIEW_TOGGLEBOOKMARK,
                      ID_VIEW_NEXTBOOKMARK, ID_VIEW_PREVBOOKMARK, ID_EDIT_CLEAR_ALL, ID_EDIT_COPY,
                      ID_EDIT_CUT, ID_EDIT_PASTE, ID_EDIT_SELECT_ALL, ID_EDIT_UNDO, ID_EDIT_REDO,
-                     ID_EDIT_FIND, ID_EDIT_REPEAT})
+                     ID_EDIT_FIND, ID_EDIT_REPEAT, ID_FILE_PRINT, ID_FILE_PRINT_DIRECT})
         EXPECT_TRUE(m_editor.OnCmdMsg(nID, CN_QUERY_HANDLER, nullptr)) << nID;
-    // Erase buffer and replace are the host's; printing comes with its own part.
-    for (UINT nID : {ID_EDIT_ERASEBUFFER, ID_EDIT_REPLACE, ID_FILE_PRINT, 57608u}) {
+    // Erase buffer and replace are the host's.
+    for (UINT nID : {ID_EDIT_ERASEBUFFER, ID_EDIT_REPLACE}) {
         EXPECT_FALSE(m_editor.OnCmdMsg(nID, CN_QUERY_HANDLER, nullptr)) << nID;
         EXPECT_FALSE(m_editor.OnCmdMsg(nID, CN_COMMAND, nullptr)) << nID;
         EXPECT_FALSE(Enabled(nID)) << nID;

@@ -69,15 +69,15 @@ TEST_F(PrintTest, PagesBreakAfterTheRowsThatFit) {
 }
 
 TEST_F(PrintTest, LongLinesWrapAtTheCharacterThatNoLongerFitsAndTabsMatchTheScreen) {
-    Print("abcdefghijklmnopqrstuvwxy\nabcdefghij\tk\na\tb");
+    Print("abcdefghijklmnopqrstuvwxy\nabcdefghij\tk\n\na\tb");
     ASSERT_EQ(Job().pages.size(), 1u);
     const std::string y1 = std::to_string(kH), y2 = std::to_string(2 * kH);
     const std::vector<std::string> expected = {
         "0,0:abcdefghij", "0," + y1 + ":klmnopqrst", "0," + y2 + ":uvwxy",
         // A continuation row starts at column 0, and its tab is measured from there.
         "0," + std::to_string(3 * kH) + ":abcdefghij", "28," + std::to_string(4 * kH) + ":k",
-        // A tab is as wide as on screen.
-        "0," + std::to_string(5 * kH) + ":a", "28," + std::to_string(5 * kH) + ":b"};
+        // An empty line is an empty row; a tab is as wide as on screen.
+        "0," + std::to_string(6 * kH) + ":a", "28," + std::to_string(6 * kH) + ":b"};
     EXPECT_EQ(Page(0), expected);
 }
 
@@ -170,7 +170,7 @@ TEST(PrintFitTest, HalvingFindsWhatTheStepByStepSearchFinds) {
             --n;
         EXPECT_EQ(CEditorPrinting::FittingLength(pDC.get(), text.c_str(),
                                                  static_cast<int>(text.size()), nWidth, nTab),
-                  text.empty() ? 1 : n)
+                  n)
             << text << " in " << nWidth;
     }
 }

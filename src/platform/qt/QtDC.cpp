@@ -37,30 +37,35 @@ const FontMetrics& CQtDC::MetricsOf(const LOGFONTA& lf) {
     return m_fonts.Get(lf).metrics;
 }
 
-bool CQtDC::Begin(QPainter& painter, const QRect& rcTouched) {
-    if (!m_pImage || m_pImage->isNull()) return false;
+QPainter* CQtDC::Open(std::optional<QPainter>& local, const QRect& rcTouched) {
+    if (!m_pImage || m_pImage->isNull()) return nullptr;
     QRegion clip = RegionOf(GetEffectiveClip()) & m_pImage->rect();
-    if (!clip.intersects(rcTouched)) return false;
+    if (!clip.intersects(rcTouched)) return nullptr;
     if (m_pDirty) *m_pDirty |= clip.boundingRect() & rcTouched;
-    painter.begin(m_pImage);
-    painter.setClipRegion(clip);
-    return true;
+    local.emplace(m_pImage);
+    local->setClipRegion(clip);
+    return &*local;
+}
+
+QRegion CQtDC::ClipRegion() const {
+    return RegionOf(GetEffectiveClip());
 }
 
 void CQtDC::DoFill(const RECT& rc, COLORREF cr) {
-    QPainter painter;
+    std::optional<QPainter> local;
     QRect r = RectOf(rc);
-    if (Begin(painter, r)) painter.fillRect(r, ColorOf(cr));
+    if (QPainter* painter = Open(local, r)) painter->fillRect(r, ColorOf(cr));
 }
 
 void CQtDC::DoText(int x, int y, const char* p, int n, int nWidth) {
     const CQtFonts::Font& f = m_fonts.Get(GetCurrentLogFont());
     // Italic and overhanging glyphs may reach a little past their cells.
     int h = f.metrics.tm.tmHeight;
-    QPainter painter;
-    if (!Begin(painter, QRect(x - h / 4, y, nWidth + h / 2, h))) return;
-    painter.setPen(ColorOf(GetTextColor()));
-    painter.setFont(f.font);
+    std::optional<QPainter> local;
+    QPainter* painter = Open(local, QRect(x - h / 4, y, nWidth + h / 2, h));
+    if (!painter) return;
+    painter->setPen(ColorOf(GetTextColor()));
+    painter->setFont(f.font);
     // Glyphs go at the integer advances the text was measured with; bytes
     // the face lacks are drawn one by one from a fallback face.
     QVector<quint32> glyphs;
@@ -76,7 +81,7 @@ void CQtDC::DoText(int x, int y, const char* p, int n, int nWidth) {
             glyphs.push_back(glyph);
             positions.push_back(QPointF(pos - x, 0));
         } else {
-            painter.drawText(QPoint(pos, baseline), QString(QChar(CWindows1252::ToUnicode(byte))));
+            painter->drawText(QPoint(pos, baseline), QString(QChar(CWindows1252::ToUnicode(byte))));
         }
         pos += f.metrics.widths[byte];
     }
@@ -89,40 +94,42 @@ void CQtDC::DoText(int x, int y, const char* p, int n, int nWidth) {
     run.setStrikeOut(f.font.strikeOut());
     // Positions are relative to the run's start: Qt draws an underline
     // from the run's position for the run's width.
-    painter.drawGlyphRun(QPointF(x, baseline), run);
+    painter->drawGlyphRun(QPointF(x, baseline), run);
 }
 
 void CQtDC::DoRoundRect(const RECT& rc, int ew, int eh, const PenObject& pen,
                         const BrushObject& brush) {
-    QPainter painter;
-    if (!Begin(painter, RectOf(rc))) return;
+    std::optional<QPainter> local;
+    QPainter* painter = Open(local, RectOf(rc));
+    if (!painter) return;
     // The shape covers left..right-1 and top..bottom-1; a one-pixel pen is
     // centred on the pixels of that outline.
     bool hasPen = pen.lopnStyle != PS_NULL;
     int w = hasPen ? std::max(1, pen.lopnWidth) : 0;
     if (hasPen)
-        painter.setPen(QPen(ColorOf(pen.lopnColor), w));
+        painter->setPen(QPen(ColorOf(pen.lopnColor), w));
     else
-        painter.setPen(Qt::NoPen);
+        painter->setPen(Qt::NoPen);
     if (brush.lbStyle != BS_NULL)
-        painter.setBrush(ColorOf(brush.lbColor));
+        painter->setBrush(ColorOf(brush.lbColor));
     else
-        painter.setBrush(Qt::NoBrush);
+        painter->setBrush(Qt::NoBrush);
     QRectF shape = hasPen ? QRectF(rc.left + w / 2.0, rc.top + w / 2.0, rc.right - rc.left - w,
                                    rc.bottom - rc.top - w)
                           : QRectF(rc.left, rc.top, rc.right - rc.left - 1, rc.bottom - rc.top - 1);
-    painter.drawRoundedRect(shape, ew / 2.0, eh / 2.0);
+    painter->drawRoundedRect(shape, ew / 2.0, eh / 2.0);
 }
 
 void CQtDC::DoImage(const CImageList& list, int nImage, int x, int y, UINT) {
     const std::vector<DWORD>* pixels = list.GetImage(nImage);
     int cx = 0, cy = 0;
     list.GetIconSize(&cx, &cy);
-    QPainter painter;
-    if (!pixels || !Begin(painter, QRect(x, y, cx, cy))) return;
+    std::optional<QPainter> local;
+    QPainter* painter = pixels ? Open(local, QRect(x, y, cx, cy)) : nullptr;
+    if (!painter) return;
     QImage image(reinterpret_cast<const uchar*>(pixels->data()), cx, cy, cx * 4,
                  QImage::Format_ARGB32);
-    painter.drawImage(QPoint(x, y), image);
+    painter->drawImage(QPoint(x, y), image);
 }
 
 BOOL CQtDC::DoScroll(int dx, int dy, const RECT& rcSource) {
@@ -138,12 +145,13 @@ BOOL CQtDC::DoScroll(int dx, int dy, const RECT& rcSource) {
 }
 
 void CQtDC::DoFocusRect(const RECT& rc) {
-    QPainter painter;
+    std::optional<QPainter> local;
     QRect r = RectOf(rc);
-    if (!Begin(painter, r)) return;
+    QPainter* painter = Open(local, r);
+    if (!painter) return;
     // Dotted and inverting, so that drawing it twice takes it away.
-    painter.setCompositionMode(QPainter::RasterOp_SourceXorDestination);
+    painter->setCompositionMode(QPainter::RasterOp_SourceXorDestination);
     QPen pen(Qt::white, 1, Qt::DotLine);
-    painter.setPen(pen);
-    painter.drawRect(r.adjusted(0, 0, -1, -1));
+    painter->setPen(pen);
+    painter->drawRect(r.adjusted(0, 0, -1, -1));
 }

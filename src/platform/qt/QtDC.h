@@ -5,12 +5,14 @@
 #pragma once
 
 #include <QImage>
+#include <QPainter>
 #include <QRect>
+#include <QRegion>
+#include <optional>
 
 #include "platform/DC.h"
 
 class CQtFonts;
-class QPainter;
 
 class CQtDC : public CDC {
 public:
@@ -27,10 +29,14 @@ protected:
     BOOL DoScroll(int dx, int dy, const RECT& rcSource) override;
     void DoFocusRect(const RECT& rc) override;
 
+    // A painter on the surface, clipped to the effective clip, or null when
+    // the touched rectangle cannot be reached. An image's painter is made in
+    // local, for the one primitive; a printer keeps one for its document.
+    virtual QPainter* Open(std::optional<QPainter>& local, const QRect& rcTouched);
+    QRegion ClipRegion() const;
+    CQtFonts& Fonts() { return m_fonts; }
+
 private:
-    // Opens a painter clipped to the effective clip; false when nothing
-    // can be reached.
-    bool Begin(QPainter& painter, const QRect& rcTouched);
 
     CQtFonts& m_fonts;
     QImage* m_pImage;

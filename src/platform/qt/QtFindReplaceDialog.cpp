@@ -12,10 +12,8 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "platform/DC.h"
 #include "platform/FindReplaceDialog.h"
 #include "platform/Messages.h"
-#include "platform/qt/QtDC.h"
 #include "platform/qt/QtPlatform.h"
 #include "platform/qt/Windows1252.h"
 
@@ -115,11 +113,10 @@ void CQtFindReplaceWidget::closeEvent(QCloseEvent* event) {
 }
 
 CQtFindReplacePeer::CQtFindReplacePeer(CQtPlatform& platform, CWnd* pWnd, const CREATESTRUCTA& cs)
-    : CQtWidgetPeer(pWnd,
+    : CQtDialogPeer(platform, pWnd,
                     new CQtFindReplaceWidget(static_cast<CFindReplaceDialog*>(pWnd),
                                              QApplication::activeWindow()),
-                    cs),
-      m_platform(platform) {
+                    cs) {
     m_pDialogWidget = static_cast<CQtFindReplaceWidget*>(GetWidget());
     m_pDialogWidget->adjustSize();
     if (QWidget* pOwner = m_pDialogWidget->parentWidget()) {
@@ -140,15 +137,4 @@ CQtFindReplacePeer::~CQtFindReplacePeer() {
 
 void CQtFindReplacePeer::DetachWidget() {
     m_pDialogWidget->Detach();
-}
-
-QRect CQtFindReplacePeer::ClientArea() const {
-    return m_pDialogWidget->rect();
-}
-
-std::unique_ptr<CDC> CQtFindReplacePeer::CreateDC(const CRgn* pPaintRegion) {
-    // The dialog draws itself; a context on it measures only.
-    CRgn surface(RECT{0, 0, m_pDialogWidget->width(), m_pDialogWidget->height()});
-    if (pPaintRegion) surface = CRgn::Intersection(surface, *pPaintRegion);
-    return std::make_unique<CQtDC>(m_platform.Fonts(), nullptr, surface, nullptr);
 }

@@ -7,7 +7,7 @@
 
 #include <QDialog>
 
-#include "platform/qt/QtWidgetPeer.h"
+#include "platform/qt/QtDialogPeer.h"
 
 class CFindReplaceDialog;
 class CQtPlatform;
@@ -43,23 +43,14 @@ private:
     QPushButton* m_pReplaceAll = nullptr;
 };
 
-class CQtFindReplacePeer : public CQtWidgetPeer {
+class CQtFindReplacePeer : public CQtDialogPeer {
 public:
     CQtFindReplacePeer(CQtPlatform& platform, CWnd* pWnd, const CREATESTRUCTA& cs);
     ~CQtFindReplacePeer() override;
-
-    QRect ClientArea() const override;
-    std::unique_ptr<CDC> CreateDC(const CRgn* pPaintRegion) override;
-    void OnInvalidate(const CRgn&, BOOL) override {}
-    void OnDrawn() override {}
-    void OnScrollBarChanged(int) override {}
-    void OnStyleChanged() override {}
-    void OnCaretChanged() override {}
 
 protected:
     void DetachWidget() override;
 
 private:
-    CQtPlatform& m_platform;
     CQtFindReplaceWidget* m_pDialogWidget;
 };

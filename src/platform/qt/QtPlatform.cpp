@@ -3,6 +3,9 @@
 #include <QApplication>
 #include <QCursor>
 #include <QKeyEvent>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinterInfo>
 #include <QScreen>
 #include <QThread>
 #include <algorithm>
@@ -12,12 +15,16 @@
 #include "completion/qt/QtPickList.h"
 #include "platform/DC.h"
 #include "platform/FindReplaceDialog.h"
+#include "platform/PrintInfo.h"
+#include "platform/PrintingDialog.h"
 #include "platform/GdiObjects.h"
 #include "platform/Messages.h"
 #include "platform/Wnd.h"
 #include "platform/qt/QtDC.h"
 #include "platform/qt/QtEventTranslator.h"
 #include "platform/qt/QtFindReplaceDialog.h"
+#include "platform/qt/QtPrinterDC.h"
+#include "platform/qt/QtPrintingDialog.h"
 #include "platform/qt/QtScrollBarPeer.h"
 #include "platform/qt/QtSystemInfo.h"
 #include "platform/qt/QtWindowPeer.h"
@@ -91,6 +98,9 @@ int CQtPlatform::ScrollBarExtent() const {
 std::unique_ptr<IWindowPeer> CQtPlatform::CreateWindowPeer(CWnd* pWnd, const CREATESTRUCTA& cs) {
     if (cs.lpszClass && std::strcmp(cs.lpszClass, "SCROLLBAR") == 0)
         return std::make_unique<CQtScrollBarPeer>(*this, pWnd, cs);
+    if (cs.lpszClass && std::strcmp(cs.lpszClass, CPrintingDialog::kClassName) == 0 &&
+        dynamic_cast<CPrintingDialog*>(pWnd))
+        return std::make_unique<CQtPrintingPeer>(*this, pWnd, cs);
     if (cs.lpszClass && std::strcmp(cs.lpszClass, CFindReplaceDialog::kClassName) == 0 &&
         dynamic_cast<CFindReplaceDialog*>(pWnd))
         return std::make_unique<CQtFindReplacePeer>(*this, pWnd, cs);
@@ -301,4 +311,39 @@ int CQtPlatform::RunPickList(CWnd* pParent, const RECT& rc, HFONT hFont,
     const QFont font = hFont ? m_fonts.Get(hFont->lf).font : widget->font();
     const QRect where(QPoint(rc.left, rc.top), QPoint(rc.right - 1, rc.bottom - 1));
     return CQtPickList::Run(widget, where, font, items);
+}
+
+BOOL CQtPlatform::DoPrintDialog(CWnd* pParent, CPrintDialogInfo& pd) {
+    QPrinter printer(QPrinter::HighResolution);
+    if (!pd.strPrinterName.empty())
+        printer.setPrinterName(QString::fromLocal8Bit(pd.strPrinterName.c_str()));
+    QPrintDialog dialog(&printer, WidgetOf(pParent) ? WidgetOf(pParent)->window() : nullptr);
+    dialog.setMinMax(static_cast<int>(pd.nMinPage), static_cast<int>(pd.nMaxPage));
+    if (dialog.exec() != QDialog::Accepted) return FALSE;
+    pd.strPrinterName = printer.printerName().toLocal8Bit().toStdString();
+    pd.strOutputFile = printer.outputFormat() == QPrinter::PdfFormat
+                           ? printer.outputFileName().toLocal8Bit().toStdString()
+                           : std::string();
+    if (dialog.printRange() == QAbstractPrintDialog::PageRange) {
+        pd.nFromPage = static_cast<UINT>(dialog.fromPage());
+        pd.nToPage = static_cast<UINT>(dialog.toPage());
+    }
+    return TRUE;
+}
+
+std::unique_ptr<CDC> CQtPlatform::CreatePrinterDC(const CPrintDialogInfo& pd) {
+    // A PDF file needs no printer; a printer must be there.
+    if (pd.strOutputFile.empty() && QPrinterInfo::availablePrinterNames().isEmpty())
+        return nullptr;
+    return std::make_unique<CQtPrinterDC>(m_fonts, pd);
+}
+
+void CQtPlatform::PumpEvents() {
+    QCoreApplication::processEvents();
+}
+
+void CQtPlatform::MessageBox(CWnd* pParent, const char* pszText) {
+    QWidget* pWidget = WidgetOf(pParent);
+    QMessageBox::warning(pWidget ? pWidget->window() : nullptr, QApplication::applicationName(),
+                         QString::fromLocal8Bit(pszText ? pszText : ""));
 }

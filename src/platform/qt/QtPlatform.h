@@ -74,6 +74,10 @@ public:
     void RevokeDropTarget(CWnd* pWnd) override { m_dragDrop.Revoke(pWnd); }
     HHOOK SetKeyboardHook(HOOKPROC pfn) override;
     BOOL Unhook(HHOOK hHook) override;
+    BOOL DoPrintDialog(CWnd* pParent, CPrintDialogInfo& pd) override;
+    std::unique_ptr<CDC> CreatePrinterDC(const CPrintDialogInfo& pd) override;
+    void PumpEvents() override;
+    void MessageBox(CWnd* pParent, const char* pszText) override;
     int RunPickList(CWnd* pParent, const RECT& rc, HFONT hFont,
                     const std::vector<std::string>& items) override;
 
