@@ -11,6 +11,7 @@
 #include "apps/demo/DemoCommands.h"
 #include "apps/demo/DemoDocument.h"
 #include "apps/demo/DemoView.h"
+#include "pages/PageFactories.h"
 #include "platform/MDIChildWnd.h"
 #include "platform/Messages.h"
 #include "resources/EditorResources.h"
@@ -87,6 +88,7 @@ CDemoWindow::CDemoWindow(QWidget* pParent)
 
 CDemoWindow::~CDemoWindow() {
     m_titleTimer.stop();
+    delete m_pOptions;
     // The documents go with their windows while this window still stands.
     m_mainFrame.SetObserver(nullptr);
     m_mainFrame.DestroyWindow();
@@ -140,6 +142,8 @@ void CDemoWindow::BuildMenus() {
                                if (!word.empty()) ReportWord(word);
                            }
                        });
+    QMenu* pTools = menuBar()->addMenu("&Tools");
+    pTools->addAction("&Options...", this, [this] { OpenOptions(); });
     QMenu* pWindow = menuBar()->addMenu("&Window");
     pWindow->addAction("&Cascade", this, [this] { MdiArea()->cascadeSubWindows(); });
     pWindow->addAction("&Tile", this, [this] { MdiArea()->tileSubWindows(); });
@@ -172,6 +176,25 @@ void CDemoWindow::ReportWord(const std::string& word) {
     CDemoDocument* pDoc = ActiveDocument();
     if (!pView || !pDoc) return;
     m_pReport->ShowMatches(QString::fromStdString(pDoc->GetTitle()), *pView->GetTextZone(), word);
+}
+
+CQtPropertySheet* CDemoWindow::OpenOptions() {
+    if (m_pOptions && m_pOptions->isVisible()) {
+        m_pOptions->raise();
+        m_pOptions->activateWindow();
+        return m_pOptions;
+    }
+    // A dialog that ended and waits for its deletion goes before its sheet.
+    delete m_pOptions;
+    m_pOptionsSheet = std::make_unique<CPropertySheet>("Options");
+    EditEx32_AddOptionPageTSQL(m_pOptionsSheet.get(), nullptr);
+    EditEx32_AddFontPage(m_pOptionsSheet.get(), nullptr);
+    // The editors read "EnableShortcuts" from their own section.
+    EditEx32_AddShortcutPage(m_pOptionsSheet.get(), "Editor");
+    m_pOptions = new CQtPropertySheet(*m_pOptionsSheet, this);
+    m_pOptions->setAttribute(Qt::WA_DeleteOnClose);
+    m_pOptions->open();
+    return m_pOptions;
 }
 
 bool CDemoWindow::SaveScreenshot(const QString& path) {

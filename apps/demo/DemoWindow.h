@@ -5,6 +5,7 @@
 // word, whose links lead back into the text.
 #pragma once
 
+#include <QPointer>
 #include <QString>
 #include <QTimer>
 #include <memory>
@@ -14,7 +15,9 @@
 #include "apps/demo/DemoMainFrame.h"
 #include "apps/demo/QtDemoPrompts.h"
 #include "apps/demo/ReportPane.h"
+#include "platform/PropertySheet.h"
 #include "platform/qt/QtMDIFrame.h"
+#include "platform/qt/QtPropertySheet.h"
 
 class CDemoDocument;
 class CDemoView;
@@ -44,6 +47,9 @@ public:
     void ReportWord(const std::string& word);
     // Renders the window into a PNG file.
     bool SaveScreenshot(const QString& path);
+    // Tools > Options: the editor's option, font and shortcut pages in a
+    // sheet over this window (the one already open, if any).
+    CQtPropertySheet* OpenOptions();
 
 private:
     void BuildMenus();
@@ -53,4 +59,8 @@ private:
     IDemoPrompts* m_pPrompts;
     CReportPane* m_pReport;
     QTimer m_titleTimer;
+    // The sheet outlives its dialog: a new one is made only once the old
+    // dialog has gone.
+    std::unique_ptr<CPropertySheet> m_pOptionsSheet;
+    QPointer<CQtPropertySheet> m_pOptions;
 };

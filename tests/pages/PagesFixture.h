@@ -1,0 +1,59 @@
+// Pages on the headless platform, with settings in memory, a data directory
+// of their own, and a window that notes the reload message.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "host/MemoryAppDataManager.h"
+#include "platform/Messages.h"
+#include "platform/Platform.h"
+#include "platform/PropertySheet.h"
+#include "support/HeadlessTest.h"
+
+class PagesTest : public HeadlessTest {
+protected:
+    void SetUp() override {
+        HeadlessTest::SetUp();
+        char templ[] = "/tmp/textzone-pages-XXXXXX";
+        ASSERT_NE(mkdtemp(templ), nullptr);
+        m_dir = templ;
+        m_store.SetDataDirectory(m_dir + "/");
+        AppDataManager::InstallAppDataManager(&m_store);
+    }
+    void TearDown() override {
+        AppDataManager::InstallAppDataManager(nullptr);
+        std::error_code ec;
+        std::filesystem::remove_all(m_dir, ec);
+        HeadlessTest::TearDown();
+    }
+    int ReloadsHeard() const { return m_wnd.Count(RegisterWindowMessageA("EditExLoadIniMessage")); }
+    // The writes since the last call, as "section/key=value".
+    std::vector<std::string> TakeWrites() {
+        std::vector<std::string> writes = m_store.GetWriteLog();
+        m_store.ClearWriteLog();
+        return writes;
+    }
+    std::string ReadFile(const std::string& path) {
+        std::string bytes;
+        if (std::FILE* f = std::fopen(path.c_str(), "rb")) {
+            for (int c; (c = std::fgetc(f)) != EOF;)
+                bytes.push_back(static_cast<char>(c));
+            std::fclose(f);
+        }
+        return bytes;
+    }
+    void WriteFile(const std::string& path, const std::string& bytes) {
+        std::FILE* f = std::fopen(path.c_str(), "wb");
+        ASSERT_NE(f, nullptr);
+        std::fwrite(bytes.data(), 1, bytes.size(), f);
+        std::fclose(f);
+    }
+
+    CMemoryAppDataManager m_store;
+    std::string m_dir;
+};
