@@ -63,13 +63,18 @@ std::string CZoneFuzzer::Text() {
 }
 
 void CZoneFuzzer::CheckInvariants() {
-    if (s_bTrace)
+    if (s_nTrace > 0)
         std::fprintf(stderr, "    text '%s' lines %d sel %d,%d-%d,%d mode %d undo %zu\n",
                      Shown(Text()).c_str(), m_zone.m_nLineCount, m_zone.m_nSelStartLine, m_zone.m_nSelStartChar,
                      m_zone.m_nSelEndLine, m_zone.m_nSelEndChar, m_zone.m_nSelectionMode,
                      m_zone.m_undoList.size());
+    if (s_nTrace > 1)
+        for (int i = 0; i < m_zone.m_nLineCount; ++i)
+            std::fprintf(stderr, "      line %d: %d bytes '%s'\n", i, m_zone.GetLine(i)->GetLength(),
+                         Shown(m_zone.GetLine(i)->c_str()).c_str());
     CheckStore();
     CheckLengths();
+    CheckCheckValues();
     CheckSelection();
     CheckBlocks();
     if (m_zone.m_undoList.size() >= static_cast<std::size_t>(TZ_MAX_UNDO)) m_bBaseValid = false;
@@ -142,6 +147,15 @@ void CZoneFuzzer::CheckLengths() {
             Fail("running length " + std::to_string(running) + ", recount " +
                  std::to_string(m_zone.m_nCurrentLength));
     }
+}
+
+// The check values the zone keeps between changes against those read
+// afresh: a change that did not drop the kept values shows here.
+void CZoneFuzzer::CheckCheckValues() {
+    int size = 0, hash = 0, freshSize = 0, freshHash = 0;
+    m_zone.GetTextCRCValues(&size, &hash);
+    m_zone.ComputeTextCRCValues(&freshSize, &freshHash);
+    if (size != freshSize || hash != freshHash) Fail("the kept check values are stale");
 }
 
 void CZoneFuzzer::CheckSelection() {

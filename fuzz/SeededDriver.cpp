@@ -1,7 +1,7 @@
 // The fuzz target without libFuzzer: replays the inputs given on the command
 // line (files, or folders of them), then runs random inputs from a seed
 // until the time is up.
-//   textzone_fuzz [--seconds N] [--seed S] [--trace] [--save DIR] [FILE|DIR]...
+//   textzone_fuzz [--seconds N] [--seed S] [--trace | --trace-lines] [--save DIR] [FILE|DIR]...
 // An input that fails aborts the run; with --save, each random input is
 // written to DIR before it runs, so the failing one is there to replay.
 #include <chrono>
@@ -45,7 +45,9 @@ int main(int argc, char** argv) {
         else if (arg == "--save" && i + 1 < argc)
             saveDir = argv[++i];
         else if (arg == "--trace")
-            CZoneFuzzer::SetTrace(true);
+            CZoneFuzzer::SetTrace(1);
+        else if (arg == "--trace-lines")
+            CZoneFuzzer::SetTrace(2);
         else
             inputs.emplace_back(arg);
     }

@@ -11,7 +11,7 @@
 #include "platform/headless/HeadlessPlatform.h"
 #include "textzone/TextZone.h"
 
-bool CZoneFuzzer::s_bTrace = false;
+int CZoneFuzzer::s_nTrace = 0;
 
 namespace {
 
@@ -83,7 +83,7 @@ void CZoneFuzzer::Trace(const char* pszFormat, ...) {
     std::vsnprintf(buffer, sizeof buffer, pszFormat, args);
     va_end(args);
     m_strLastOp = buffer;
-    if (s_bTrace) std::fprintf(stderr, "op: %s\n", buffer);
+    if (s_nTrace > 0) std::fprintf(stderr, "op: %s\n", buffer);
 }
 
 void CZoneFuzzer::Rebase() {
@@ -192,12 +192,10 @@ void CZoneFuzzer::StepText(CByteReader& in, int nOp) {
             std::string text = in.Text(8);
             m_editor.SendMessage(EM_REPLACESEL, 0, reinterpret_cast<LPARAM>(text.c_str()));
             // A host's replacement is no step of the history: the history
-            // goes. Undo all would lead back to the text as it is now, but
-            // that check stays off here while undo still leaves padding
-            // behind on inputs that reach it only this way.
+            // goes, and undo all leads back to the text as it is now.
             if (!m_zone.m_undoList.empty() || !m_zone.m_redoList.empty())
                 Fail("a host's replacement left a history behind");
-            m_bBaseValid = false;
+            Rebase();
             break;
         }
         default: {

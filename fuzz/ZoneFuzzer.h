@@ -21,8 +21,9 @@ public:
     // Runs one input from a fresh control; returns the operations it ran.
     static long Run(const std::uint8_t* pData, std::size_t nSize);
 
-    // With a trace each operation is printed before it runs.
-    static void SetTrace(bool bTrace) { s_bTrace = bTrace; }
+    // With a trace each operation is printed before it runs and the text
+    // after it; at level 2 every line of the store too.
+    static void SetTrace(int nLevel) { s_nTrace = nLevel; }
     // A text as a report can show it: control bytes spelled out, cut short.
     static std::string Shown(const std::string& text);
 
@@ -39,6 +40,7 @@ private:
     void CheckInvariants();
     void CheckStore();
     void CheckLengths();
+    void CheckCheckValues();
     void CheckSelection();
     void CheckBlocks();
     void CheckHistory();
@@ -57,5 +59,5 @@ private:
     bool m_bBaseValid = true;  // false once the history may have lost a step
     std::string m_strLastOp;
     std::vector<std::unique_ptr<CFont>> m_fonts;
-    static bool s_bTrace;
+    static int s_nTrace;
 };

@@ -61,7 +61,7 @@ bool CKeywordIndex::IsBuiltFor(const char* const* const* ppTables, int nCount) c
 }
 
 void CKeywordIndex::Take(std::string& text, bool bFold, KeywordBounds bounds,
-                         std::vector<KeywordToken>& tokens) const {
+                         std::vector<KeywordToken>& tokens, int nKeepEnd) const {
     // The word-by-word search is strstr-based: it sees the text up to its
     // first 0 byte only.
     const int n = static_cast<int>(std::strlen(text.c_str()));
@@ -108,7 +108,7 @@ void CKeywordIndex::Take(std::string& text, bool bFold, KeywordBounds bounds,
             if (std::memchr(m + p, kTaken, static_cast<size_t>(h.nLength))) continue;
             const int behind = p + h.nLength;
             if ((p > 0 && BlocksBefore(static_cast<unsigned char>(m[p - 1]), bounds)) ||
-                BlocksBehind(static_cast<unsigned char>(m[behind]), bounds)) {
+                BlocksBehind(static_cast<unsigned char>(m[behind]), bounds) || behind == nKeepEnd) {
                 from = behind;  // a hit that fails: the search goes on behind the word
                 continue;
             }

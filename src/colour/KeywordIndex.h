@@ -38,9 +38,11 @@ public:
     // have dealt with it. With bFold words are matched against the text
     // lower-cased, while the text keeps its case. Every word taken is
     // overwritten with byte 10 in text and appended to tokens, in the order
-    // the word-by-word search takes them.
+    // the word-by-word search takes them. A word that ends at nKeepEnd is
+    // passed over as one with a blocked neighbour is (the keyword case
+    // leaves the word the caret ends as typed).
     void Take(std::string& text, bool bFold, KeywordBounds bounds,
-              std::vector<KeywordToken>& tokens) const;
+              std::vector<KeywordToken>& tokens, int nKeepEnd = -1) const;
 
     // Whether c may stand before or behind a keyword under the rules.
     static bool BlocksBefore(unsigned char c, KeywordBounds bounds);

@@ -50,8 +50,10 @@ void CLineFlags::NoteHidden() {
 }
 
 void CStringEx::NoteLength(int nOld) {
-    if (m_nOwnerZone && GetLength() != nOld)
-        CTextZone::FromIndex(m_nOwnerZone)->NoteLineLength(this);
+    if (!m_nOwnerZone) return;
+    CTextZone* pZone = CTextZone::FromIndex(m_nOwnerZone);
+    pZone->NoteTextChanged();
+    if (GetLength() != nOld) pZone->NoteLineLength(this);
 }
 
 // Each change runs the string's own operation and then tells the zone.
@@ -115,6 +117,16 @@ CStringEx& CStringEx::Format(const char* pszFormat, ...) {
 
 void CStringEx::assign(const char* p, int n) {
     Noted([&] { VESK::String::assign(p, n); });
+}
+
+void CStringEx::replaceAt(int nPos, char c) {
+    Noted([&] { VESK::String::replaceAt(nPos, c); });
+}
+
+char* CStringEx::GetBuffer() {
+    char* p = VESK::String::GetBuffer();
+    if (m_nOwnerZone) CTextZone::FromIndex(m_nOwnerZone)->NoteTextChanged();
+    return p;
 }
 
 int CStringEx::IsEnded() const {

@@ -44,6 +44,11 @@ public:
     CStringEx& insertAt(int nPos, const VESK::String& s);
     void Empty();
     void assign(const char* p, int n);
+    // Changes that keep the length tell the zone too: its check values of
+    // the text go. The buffer is written after the call, so its bytes must
+    // be written before the zone is next asked for those values.
+    void replaceAt(int nPos, char c);
+    char* GetBuffer();
     CStringEx& Format(const char* pszFormat, ...) __attribute__((format(printf, 2, 3)));
 
     virtual ~CStringEx() = default;
@@ -71,7 +76,8 @@ public:
 
 private:
     friend class CLineFlags;
-    // Tells the owning zone if the length is no longer nOld.
+    // Tells the owning zone of a change, and if the length is no longer
+    // nOld, of that too.
     void NoteLength(int nOld);
     // Runs a change of the string and tells the zone of a new length.
     template <class F>

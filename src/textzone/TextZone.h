@@ -261,7 +261,10 @@ public:
     std::string GetSelectedTextString(WORD wFlags);
     void CollapseCurrentSel();
     void ExpandCurrentSel();
+    // The text's two check values, kept until the text changes.
     void GetTextCRCValues(int* pSize, int* pHash);
+    // The same values read from every line, without the kept ones.
+    void ComputeTextCRCValues(int* pSize, int* pHash);
     void SetBookmarkColor(COLORREF cr, int nIndex);
     void SetLineBookmark(int nLine, int nBit, int bOn);
     const GraphicText& getGraphicText() const { return m_GraphicText; }
@@ -269,6 +272,8 @@ public:
     static CTextZone* FromIndex(std::uint32_t nIndex);
     // A line of the store says that its length changed (CStringEx does).
     void NoteLineLength(CStringEx* pLine);
+    // Any byte of the text may have changed: the kept check values go.
+    void NoteTextChanged() { m_bCheckValid = false; }
     // Its hidden flag (4 of m_dwBlockFlags) may have changed: every place
     // that sets or clears the flag on a stored line says so.
     void NoteLineFlags(CStringEx* pLine);
@@ -475,6 +480,12 @@ public:
     std::unique_ptr<int[]> m_pBlockLongest;
     std::unique_ptr<int[]> m_pBlockHidden;  // hidden lines per block, -1: to be counted
     bool m_bLengthsStale = false;
+    // GetTextCRCValues of the text as it stands while m_bCheckValid holds:
+    // every change of a stored line's bytes and every line that comes or
+    // goes clears it.
+    bool m_bCheckValid = false;
+    int m_nCheckSize = 0;
+    int m_nCheckHash = 0;
     std::uint32_t m_nZoneIndex = TakeIndex(this);  // what this zone's lines name it by
     // Places of the last lines looked up, where a changing line is sought first.
     int m_nRecentBlock[4] = {-1, -1, -1, -1};

@@ -188,8 +188,11 @@ void CTextZone::BoxDeleteSelection() {
         while (x < bound && idx < TZ_MAX_PLACE) {
             const int textLength = pLine->GetLength() - pLine->IsEnded();
             if (idx >= textLength) {
-                // Padded in one go: the spaces that reach the edge, at least one.
-                PadText(*pLine, textLength + std::max(1, (bound - x) / spaceWidth));
+                // Padded in one go: the spaces that reach the edge, at least
+                // one, counted from the text's end (the place found may lie
+                // further right, where a free caret's measure stops).
+                const int xEnd = BoxX(pDC, *pLine, textLength);
+                PadText(*pLine, textLength + std::max(1, (bound - xEnd) / spaceWidth));
                 idx = textLength;
             } else if ((*pLine)[idx] == '\t') {
                 // A zero step is taken as the default for good, so that the

@@ -73,7 +73,9 @@ void CTextZone::KeyRewrapTyped(int nLine, int bCreated, int* pnFirst, int* pnLas
 }
 
 void CTextZone::HandleChar(UINT nChar, UINT, UINT) {
-    if (nChar < 32 || nChar > 255 || m_bReadOnly) return;
+    // Control bytes are no typing, but a replay of the history puts back a
+    // deleted one (a host's text may hold any byte but 0 and line ends).
+    if ((nChar < 32 && !m_bUndoing) || nChar == 0 || nChar > 255 || m_bReadOnly) return;
     const char c = static_cast<char>(nChar);
     SetModify(1);
     StartRegister(TZ_EDIT_TYPING);
@@ -117,6 +119,14 @@ void CTextZone::HandleChar(UINT nChar, UINT, UINT) {
         OnTextTooLong();
         EndRegister();
         if (m_pWnd && m_pWnd->GetSafeHwnd()) m_pWnd->UpdateWindow();
+        return;
+    }
+    // A full line takes nothing more, silently; asked before a line behind
+    // the text is made or the last line ended, which no undo would take back.
+    if (!m_bUndoing && std::max(pCaretLine ? pCaretLine->GetLength() : 0,
+                                m_nSelStartChar + (pCaretLine ? pCaretLine->IsEnded() : 0)) >=
+                           GetLineLimit()) {
+        EndRegister();
         return;
     }
     HideCaret();

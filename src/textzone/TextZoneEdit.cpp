@@ -130,9 +130,12 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
         if (pTail) {
             // The tail keeps what stood right of the caret until the text is in.
             int tailLength = pTail->GetLength();
-            int caretChar = m_nSelStartChar;
             // A free caret may stand beyond the text: blanks fill the gap, in
             // front of the line end, and undo takes them out with the text.
+            // They never take the line past its limit: a redo puts the
+            // same blanks back as text, and would have to cut that line.
+            const int caretChar =
+                std::min(m_nSelStartChar, std::max(TextLength(*pLine), TZ_MAX_LINE_LENGTH - 1));
             if (m_nSelRootLine == L && !UndoByOffsets())
                 m_nSelRootChar = std::min(m_nSelRootChar, TextLength(*pLine));
             PadText(*pLine, caretChar);
@@ -159,7 +162,10 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
 
                 int srcLen = static_cast<int>(std::strcspn(p, "\r\n"));
                 int n = srcLen;
-                if (srcLen >= TZ_MAX_LINE_LENGTH - start)
+                // A replay puts back what was there, uncut: an insertion in
+                // the middle of a full line can leave a line longer than the
+                // limit an insertion cuts its own text at.
+                if (!m_bUndoing && srcLen >= TZ_MAX_LINE_LENGTH - start)
                     n = std::max(0, TZ_MAX_LINE_LENGTH - 1 - start);
                 // A source line too long for a line is ended here and goes on below.
                 if (start == 0 && pTarget->IsEmpty()) {
@@ -221,9 +227,11 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
                     if (pPrev && pPrev->GetLength() != prevLength)
                         first = std::min(first, done - 1);
                 }
+                // The run ends on the line that holds this piece's end, which
+                // is above L when the piece flowed up into the line before.
                 // A run that cannot wrap (width 0) stops where it began, which
                 // may be the line above: the next piece still goes below L.
-                L = std::max(done, L) + 1;
+                L = (paragraphs && m_nMaxWidth >= 1 ? done : std::max(done, L)) + 1;
                 firstPass = false;
             }
             if (*p) result = 0;
@@ -282,6 +290,9 @@ void CTextZone::DeleteSelection(int bUpdate) {
     // the deletion starts where the line's text ends.
     if (pStart && m_nSelStartChar > TextLength(*pStart) && UndoByOffsets())
         m_nSelStartChar = TextLength(*pStart);
+    // Nor do the blanks take the line past its limit.
+    if (pStart && m_nSelStartChar > TZ_MAX_LINE_LENGTH - 1)
+        m_nSelStartChar = std::max(TextLength(*pStart), TZ_MAX_LINE_LENGTH - 1);
     if (pStart && m_nSelStartChar > TextLength(*pStart) && !UndoByOffsets()) {
         const int endLine = m_nSelEndLine, endChar = m_nSelEndChar;
         m_nSelRootLine = m_nSelEndLine = m_nSelStartLine;

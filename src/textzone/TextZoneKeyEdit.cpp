@@ -121,6 +121,14 @@ void CTextZone::KeyBackDelete(int bBackspace) {
             DrawCaret(1, 1);
             return;
         }
+        if (ch > 0) {
+            // Behind the text a caret beyond the end only moves back; a line
+            // made for it would stand empty behind the last one, which may
+            // not even be ended.
+            m_nSelStartChar = m_nSelEndChar = m_nSelRootChar = ch - 1;
+            DrawCaret(1, 1);
+            return;
+        }
         pLine = InsertLine(line);
         if (!pLine) {
             DrawCaret(1, 1);
@@ -417,8 +425,9 @@ void CTextZone::KeyTab(int bShift) {
             const int before = pLine->GetLength();
             PadText(*pLine, ch);
             AddLength(*this, pLine->GetLength() - before);
-            // Undo takes the padding out together with the tab.
-            if (!UndoByOffsets())
+            // Undo takes the padding out together with the tab. A root on
+            // the line above (whose end typing behind the text added) stays.
+            if (m_nSelRootLine == line && !UndoByOffsets())
                 m_nSelRootChar = std::min(m_nSelRootChar, std::max(0, before - pLine->IsEnded()));
             const int limit = m_bUndoing ? INT_MAX : GetLineLimit();
             if (GetTabConvert()) {
@@ -431,6 +440,8 @@ void CTextZone::KeyTab(int bShift) {
                 pLine->InsertChar(ch++, '\t');
                 AddLength(*this, 1);
             }
+            // In line mode the old selection's end is still elsewhere.
+            m_nSelEndLine = line;
             m_nSelStartChar = m_nSelEndChar = ch;
             KeyRewrapTyped(line, created, &first, &last);
             RegisterUnit(TZ_UNIT_TYPED);

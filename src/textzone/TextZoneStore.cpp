@@ -104,6 +104,7 @@ int CTextZone::GetLineIndexes(int nLine, int* pBlock, int* pIndex) {
 }
 
 CStringEx* CTextZone::InsertLine(int nLine) {
+    m_bCheckValid = false;
     CStringEx* pNew = CreateLine();
     if (!pNew) return nullptr;
     if (nLine < 0) {
@@ -251,6 +252,7 @@ int CTextZone::ExtendGranularity() {
 }
 
 void CTextZone::RemoveLines(int nFirst, int nCount) {
+    m_bCheckValid = false;
     int b0 = 0;
     int i0 = 0;
     if (!GetLineIndexes(nFirst, &b0, &i0)) return;
@@ -379,6 +381,7 @@ void CTextZone::ShowOrphanedLines(int nFrom, int nTo) {
 }
 
 void CTextZone::FreeAllLines() {
+    m_bCheckValid = false;
     for (int b = 0; b < m_nBlockCount; ++b) {
         for (int k = 0; k < m_pBlockSizes[b]; ++k)
             delete m_ppBlocks[b][k];

@@ -260,6 +260,17 @@ void CTextZone::RebuildCurrentLength() {
 }
 
 void CTextZone::GetTextCRCValues(int* pSize, int* pHash) {
+    // Reading 500 MB for each saved block state is what restoring one costs
+    // otherwise; the values stay right until a line changes.
+    if (!m_bCheckValid) {
+        ComputeTextCRCValues(&m_nCheckSize, &m_nCheckHash);
+        m_bCheckValid = true;
+    }
+    if (pSize) *pSize = m_nCheckSize;
+    if (pHash) *pHash = m_nCheckHash;
+}
+
+void CTextZone::ComputeTextCRCValues(int* pSize, int* pHash) {
     int nLast = GetLastLineIndex();
     for (;;) {
         if (nLast <= 0) break;

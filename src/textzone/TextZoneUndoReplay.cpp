@@ -47,6 +47,18 @@ void SelectPlace(CTextZone& zone, const CUndoUnit& unit) {
     if (zone.m_nSelStartLine > after) zone.m_nSelStartLine = after, zone.m_nSelStartChar = 0;
 }
 
+// Before a restore of lines: the copy for the other list takes in every line
+// the restore will touch, also lines behind the text that the restore brings
+// back, or undoing the restore would leave them standing.
+void SelectLinesToRecord(CTextZone& zone, const CUndoUnit& unit) {
+    SelectPlace(zone, unit);
+    if (ParagraphForm(zone)) return;
+    zone.m_nSelStartLine = unit.m_nFirstLine;
+    zone.m_nSelStartChar = unit.m_nFirstChar;
+    zone.m_nSelEndLine = unit.m_nLastLine;
+    zone.m_nSelEndChar = unit.m_nLastChar;
+}
+
 // Each line from the unit's first to its last takes back its copy: the
 // bytes up to the next 10, the terminator included. The line object stays,
 // and with it its bookmarks and block flags. Lines that were not there go
@@ -67,6 +79,12 @@ void RestoreLines(CTextZone& zone, const CUndoUnit& unit) {
         if (!pLine) break;
         pLine->assign(text.data() + pos, static_cast<int>(end - pos));
         pos = end + 1;
+        // A line that comes back unended was the last one: an empty line
+        // that an undone edit behind it left standing goes, or the text
+        // would hold a line without its end.
+        CStringEx* pNext = zone.GetLine(n + 1);
+        if (!pLine->IsEnded() && pNext && pNext->IsEmpty() && !zone.GetLine(n + 2))
+            zone.RemoveLines(n + 1, 1);
     }
 }
 
@@ -213,7 +231,7 @@ void CTextZone::PerformUndoing(CUndoOperation* pOperation) {
                 break;
 
             case TZ_UNIT_LINES:
-                SelectPlace(*this, unit);
+                SelectLinesToRecord(*this, unit);
                 RegisterUnit(TZ_UNIT_LINES_CARET);
                 if (!unit.m_hText.empty()) RestoreLines(*this, unit);
                 SelectPlace(*this, unit);
@@ -227,7 +245,7 @@ void CTextZone::PerformUndoing(CUndoOperation* pOperation) {
                 break;
 
             case TZ_UNIT_LINES_CARET:
-                SelectPlace(*this, unit);
+                SelectLinesToRecord(*this, unit);
                 RegisterUnit(TZ_UNIT_LINES);
                 if (!unit.m_hText.empty()) RestoreLines(*this, unit);
                 m_nSelStartLine = m_nSelEndLine = unit.m_nFirstLine;

@@ -2,20 +2,15 @@
 #include "zones/TextZoneParam.h"
 
 #include <cctype>
-#include <cstring>
+#include <iterator>
 #include <string>
 
-#include "host/Collator.h"
 #include "keywords/KeywordTables.h"
 
 namespace {
 
 constexpr char kMasked = 0x0A;  // never a word byte; keeps every column in place
 constexpr int kAllLines = 0x7fffffff;
-
-bool IsKeywordNeighbour(unsigned char c) {
-    return c >= 0x80 || std::isalnum(c) || c == '#' || c == '@' || c == '_';
-}
 
 }  // namespace
 
@@ -109,70 +104,42 @@ void CTextZoneParam::AnalyzeLine(int nLine) {
     for (char& c : work)
         if (c == 0x0D) c = kMasked;
 
-    const bool bCaretRule = !TestSelection() && nLine == m_nSelStartLine;
-    const int nCaret = m_nSelStartChar;
-    char* pLive = pLine->GetBuffer();
-    const VESK::ICollator* pCollator = VESK::CollatorFactory::getSystemCollator();
-
+    // The word the caret ends is still being typed and stays as it is.
+    const int nKeepEnd = !TestSelection() && nLine == m_nSelStartLine ? m_nSelStartChar : -1;
     static constexpr int kTables[] = {0, 2, 3, 4, 5};
-    std::string folded;
-    for (int nTable : kTables) {
-        const char** pWords = m_keywordLists[nTable];
-        if (!pWords) continue;
-        folded = work;
-        pCollator->toLower(folded.data(), n);
-        for (const char** pp = pWords; *pp && **pp; ++pp) {
-            const char* pWord = *pp;
-            const int nWord = static_cast<int>(std::strlen(pWord));
-            int from = 0;
-            while (from + nWord <= n) {
-                const char* hit = static_cast<const char*>(
-                    memmem(folded.data() + from, static_cast<size_t>(n - from), pWord,
-                           static_cast<size_t>(nWord)));
-                if (!hit) break;
-                const int at = static_cast<int>(hit - folded.data());
-                const int end = at + nWord;
-                const bool bBefore =
-                    at == 0 || !IsKeywordNeighbour(static_cast<unsigned char>(folded[at - 1]));
-                const bool bAfter =
-                    end >= n || !IsKeywordNeighbour(static_cast<unsigned char>(folded[end]));
-                // A word the user is still typing stays as typed.
-                if (!bBefore || !bAfter || (bCaretRule && end == nCaret)) {
-                    from = end;
-                    continue;
+    const char* const* tables[std::size(kTables)];
+    for (std::size_t t = 0; t < std::size(kTables); ++t)
+        tables[t] = m_keywordLists[kTables[t]];
+    constexpr int kCount = static_cast<int>(std::size(kTables));
+    if (!m_keywordIndex.IsBuiltFor(tables, kCount)) m_keywordIndex.Build(tables, kCount);
+    // Table by table and word by word, each word taken masks its place and
+    // the blanks behind it for the words after it.
+    m_keywordTokens.clear();
+    m_keywordIndex.Take(work, true, KeywordBounds::Sql, m_keywordTokens, nKeepEnd);
+
+    char* pLive = pLine->GetBuffer();
+    for (const KeywordToken& token : m_keywordTokens) {
+        int i = token.nStart;
+        const int stop = token.nEnd;
+        switch (m_nKeywordMode) {
+            case KM_UPPER:
+                for (; i < stop; ++i)
+                    pLive[i] = static_cast<char>(std::toupper(static_cast<unsigned char>(pLive[i])));
+                break;
+            case KM_LOWER:
+                for (; i < stop; ++i)
+                    pLive[i] = static_cast<char>(std::tolower(static_cast<unsigned char>(pLive[i])));
+                break;
+            default:
+                while (i < stop && (pLive[i] == '@' || pLive[i] == '#'))
+                    ++i;
+                if (i < stop) {
+                    pLive[i] = static_cast<char>(std::toupper(static_cast<unsigned char>(pLive[i])));
+                    ++i;
                 }
-                int stop = end;
-                while (stop < n && (work[stop] == ' ' || work[stop] == '\t'))
-                    ++stop;
-                int i = at;
-                switch (m_nKeywordMode) {
-                    case KM_UPPER:
-                        for (; i < stop; ++i)
-                            pLive[i] = static_cast<char>(std::toupper(static_cast<unsigned char>(pLive[i])));
-                        break;
-                    case KM_LOWER:
-                        for (; i < stop; ++i)
-                            pLive[i] = static_cast<char>(std::tolower(static_cast<unsigned char>(pLive[i])));
-                        break;
-                    default:
-                        while (i < stop && (pLive[i] == '@' || pLive[i] == '#'))
-                            ++i;
-                        if (i < stop) {
-                            pLive[i] = static_cast<char>(std::toupper(static_cast<unsigned char>(pLive[i])));
-                            ++i;
-                        }
-                        for (; i < stop; ++i)
-                            pLive[i] = static_cast<char>(std::tolower(static_cast<unsigned char>(pLive[i])));
-                        break;
-                }
-                std::memset(folded.data() + at, kMasked, static_cast<size_t>(stop - at));
-                from = stop;
-            }
+                for (; i < stop; ++i)
+                    pLive[i] = static_cast<char>(std::tolower(static_cast<unsigned char>(pLive[i])));
+                break;
         }
-        // What this table matched stays masked for the next one; the rest
-        // takes back its own bytes.
-        for (int i = 0; i < n; ++i)
-            if (folded[i] != kMasked) folded[i] = work[i];
-        work.swap(folded);
     }
 }

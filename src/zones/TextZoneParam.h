@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "TextzoneExport.h"
+#include "colour/KeywordIndex.h"
 #include "colour/TextZoneColor.h"
 #include "zones/ShortcutEntry.h"
 
@@ -89,4 +90,10 @@ protected:
     // Six 0-ended tables of lower-case words; index 1 (data types) is never
     // converted.
     const char** m_keywordLists[6];
+
+private:
+    // The words of the converted tables (all but index 1), rebuilt when the
+    // lists change, so that a line is scanned once and not once per word.
+    CKeywordIndex m_keywordIndex;
+    std::vector<KeywordToken> m_keywordTokens;
 };

@@ -58,6 +58,12 @@ TEST_F(KeyEditTest, TypingBehindTheTextEndsTheLastLineOrPadsToTheColumn) {
     Type("c");
     EXPECT_EQ(CrText(), "ab\rc");
     ExpectUndoRedo("ab", "ab\rc");
+    // A tab there too: its undo takes the line end out again, not the line.
+    m_zone.SetText("ab");
+    Caret(0, 2);
+    Press(VK_RIGHT);
+    Press(VK_TAB);
+    ExpectUndoRedo("ab", "ab\r\t");
 
     m_zone.SetText("abcd\r");
     Caret(0, 3);
@@ -288,6 +294,21 @@ TEST_F(KeyEditTest, BackspaceAndDeleteWithinAndAtTheEdgesOfTheText) {
     ExpectCaret(0, 2);
     ExpectUndoRedo("ab\r", "ab");
 
+    // Further right on the place behind the text (where a box caret may
+    // stand) it only moves back: no line is made there, behind an unended
+    // line or an ended one.
+    for (const char* text : {"ab", "ab\r"}) {
+        m_zone.SetStyle(ZS_FREECARET);
+        m_zone.SetText(text);
+        m_zone.SetSelection(1, 1, 4, 4, TZ_SEL_BOX, 0);
+        Press(VK_BACK);
+        ExpectCaret(1, 3);
+        EXPECT_EQ(m_zone.GetLineCount(), 1);
+        EXPECT_EQ(CrText(), text);
+        EXPECT_EQ(m_zone.GetUndoType(), 0);
+        m_zone.SetStyle(0);
+    }
+
     // Behind a wrapped line, Delete takes the next line's first byte.
     m_zone.SetText("x\rcd\r");
     m_zone.GetLine(0)->assign("ab", 2);
@@ -295,6 +316,15 @@ TEST_F(KeyEditTest, BackspaceAndDeleteWithinAndAtTheEdgesOfTheText) {
     Press(VK_DELETE);
     EXPECT_EQ(Line(1), "d\r");
     ExpectCaret(1, 0);
+
+    // A control byte of the host's text cannot be typed, but comes back.
+    m_zone.SetText("a\x0b");
+    Caret(0, 2);
+    Press(VK_BACK);
+    ExpectUndoRedo("a\x0b", "a");
+    Caret(0, 0);
+    Type("\x0b");
+    EXPECT_EQ(CrText(), "a");
 }
 
 TEST_F(KeyEditTest, TabTypesATabOrSpacesToTheNextStop) {

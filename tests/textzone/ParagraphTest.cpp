@@ -130,6 +130,22 @@ TEST_F(ParagraphTest, TextInsertedWhereTheWidthIsZeroKeepsEveryByte) {
     EXPECT_EQ(Text(), "aaaa bb X\r\nYbb cccc\r\n");
 }
 
+TEST_F(ParagraphTest, APieceThatFlowsUpIntoTheLineAboveLeavesTheRestInOrder) {
+    // The first piece ends the paragraph on the line above, whose room takes
+    // it in: the next pieces go in front of the caret's tail, not behind it.
+    Wrap(ZS_WORDBREAK, 48);
+    ASSERT_TRUE(m_zone.SetText("aaaa bbbb\r\n"));
+    ASSERT_EQ(Lines(), "[aaaa ][bbbb\r]");
+    m_zone.SetSelection(1, 1, 0, 0, 0, 0);
+    m_zone.StartRegister(6);
+    EXPECT_TRUE(m_zone.InsertText("\rX\n\rYZ", 0, 1, 1));
+    m_zone.EndRegister();
+    EXPECT_EQ(Text(), "aaaa \r\nX\r\n\r\nYZbbbb\r\n");
+    ExpectCaret(3, 2);
+    m_zone.Undo();
+    EXPECT_EQ(Text(), "aaaa bbbb\r\n");
+}
+
 TEST_F(ParagraphTest, SwitchingWrapRewrapsOrJoinsAndForgetsTheHistory) {
     ASSERT_TRUE(m_zone.SetText("aaa bbb ccc\r\nx\r\n"));
     m_zone.SetMaxWidth(40);
@@ -156,7 +172,7 @@ TEST_F(ParagraphTest, SwitchingWrapRewrapsOrJoinsAndForgetsTheHistory) {
 TEST_F(ParagraphTest, RandomEditsKeepTextWidthsAndCaret) {
     std::mt19937 rng(20261123);
     const char* pieces[] = {"a", "bb", "ccc ", " ", "dddd", "eeeeeeeeeeeeeeeeeee", "-", "\r",
-                            "ff gg hh ", "\t", "iii jjj\r", "k"};
+                            "ff gg hh ", "\t", "iii jjj\r", "k", "\rl\r\rm", "n\ro"};
     for (DWORD extra : {DWORD{ZS_WORDBREAK}, DWORD{0}}) {
         Wrap(extra, 96);
         m_zone.SetTabWidth(-2);

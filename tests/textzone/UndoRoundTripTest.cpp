@@ -10,18 +10,21 @@ namespace {
 class UndoRoundTripTest : public KeyZoneTest {
 protected:
     // Undoes everything, checks the text (and more, if asked), redoes
-    // everything, checks again.
+    // everything, checks again; and once more, since a redo records the
+    // steps that the second undo replays.
     template <typename Check>
     void ExpectRoundTrip(const std::string& before, Check checkUndone) {
         const std::string after = Text();
-        int steps = 0;
-        for (; m_zone.GetUndoType() != 0 && steps < 200; ++steps)
-            m_zone.Undo();
-        EXPECT_EQ(Text(), before);
-        checkUndone();
-        for (int i = 0; i < steps; ++i)
-            m_zone.Redo();
-        EXPECT_EQ(Text(), after);
+        for (int round = 0; round < 2; ++round) {
+            int steps = 0;
+            for (; m_zone.GetUndoType() != 0 && steps < 200; ++steps)
+                m_zone.Undo();
+            EXPECT_EQ(Text(), before) << "round " << round;
+            checkUndone();
+            for (int i = 0; i < steps; ++i)
+                m_zone.Redo();
+            EXPECT_EQ(Text(), after) << "round " << round;
+        }
     }
     void ExpectRoundTrip(const std::string& before) {
         ExpectRoundTrip(before, [] {});
@@ -95,6 +98,14 @@ TEST_F(UndoRoundTripTest, TheLimitsDoNotStopAReplay) {
     Press(VK_DELETE);
     m_zone.Undo();
     EXPECT_EQ(m_zone.GetLine(0)->GetLength(), TZ_MAX_LINE_LENGTH + 1);
+    // Deleted whole, such a line comes back whole, not cut at the limit.
+    const std::string full = Text();
+    m_zone.FreeAllOperations();
+    m_zone.SetSelection(0, 1, 0, 0, 0, 0);
+    m_zone.StartRegister(4);
+    m_zone.DeleteSelection(1);
+    m_zone.EndRegister();
+    ExpectRoundTrip(full);
 }
 
 TEST_F(UndoRoundTripTest, LineModeAndTheLineBehindTheTextRecordOnlyWhatChanged) {
@@ -105,6 +116,17 @@ TEST_F(UndoRoundTripTest, LineModeAndTheLineBehindTheTextRecordOnlyWhatChanged) 
     Type("x");  // line mode deletes nothing
     EXPECT_EQ(Text(), "xone\r\ntwo\r\nthree\r\n");
     ExpectRoundTrip(before);
+    // A tab likewise, also where wrap records by text offsets.
+    for (DWORD style : {DWORD{0}, ZS_PARAGRAPH}) {
+        m_zone.SetStyle(style);
+        m_zone.SetText(before.c_str());
+        m_zone.SetSelectionMode(0);
+        m_zone.SetSelection(0, 2, 1, 1, 0, 0);
+        Press(VK_TAB);
+        EXPECT_EQ(Text(), "o\tne\r\ntwo\r\nthree\r\n");
+        ExpectRoundTrip(before);
+    }
+    m_zone.SetStyle(0);
 
     // Shift+Down on the last line reaches the line behind the text at the
     // goal column; what replaces the selection took no blanks from there.
@@ -155,4 +177,39 @@ TEST_F(UndoRoundTripTest, AWrappedDeletionFromBehindALineEndLeavesNoBlanks) {
     Paste("xy\r\n");
     EXPECT_EQ(CrText(), "abxy\rd\r\r");
     ExpectRoundTrip(before);
+}
+
+TEST_F(UndoRoundTripTest, BlanksUpToAPlaceFarBehindTheLineStopAtTheLineLimit) {
+    // A host may place the selection far behind a line's end; the blanks
+    // that fill the gap would otherwise make a line that a redo, putting
+    // them back as text, has to cut.
+    const std::string before = "ab\r\ncd\r\n";
+    m_zone.SetText(before.c_str());
+    m_zone.SetSelection(0, 0, 70000, 70000, 0, 0);
+    Paste("\r\nx");
+    EXPECT_EQ(m_zone.GetLine(0)->GetLength(), TZ_MAX_LINE_LENGTH);
+    EXPECT_EQ(Line(1), "x\r");
+    ExpectRoundTrip(before);
+
+    m_zone.SetText(before.c_str());
+    m_zone.SetSelection(0, 1, 70000, 1, 0, 0);
+    m_zone.StartRegister(4);
+    m_zone.DeleteSelection(1);
+    m_zone.EndRegister();
+    // Blanks to the limit, then what stood behind the selection.
+    EXPECT_EQ(Line(0), "ab" + std::string(TZ_MAX_LINE_LENGTH - 3, ' ') + "d\r");
+    ExpectRoundTrip(before);
+}
+
+TEST_F(UndoRoundTripTest, AByteTypedPastTheLineLimitBehindTheTextChangesNothing) {
+    // The place behind an unended (here empty) last line, far right: the
+    // byte is refused, and neither is that line ended nor a line made.
+    m_zone.SetText("\r");
+    m_zone.InsertLine(1);
+    m_zone.FreeAllOperations();
+    const std::string before = CrText();
+    m_zone.SetSelection(2, 2, TZ_MAX_PLACE, TZ_MAX_PLACE, 2, 0);
+    Type("a");
+    EXPECT_EQ(CrText(), before);
+    EXPECT_EQ(m_zone.GetLineCount(), 2);
 }

@@ -13,6 +13,7 @@
 
 class CTestParamZone : public CTextZoneParam {
 public:
+    using CTextZoneParam::AnalyzeLine;
     using CTextZoneParam::m_bRescanPending;
     using CTextZoneParam::m_keywordLists;
 };
