@@ -1,7 +1,7 @@
 # Package installation shared by the scripts: installs only what is missing,
 # so that a machine that has everything pays one dpkg query.
 TEXTZONE_PACKAGES=(cmake ninja-build g++ libgtest-dev libgmock-dev libbenchmark-dev
-                   qt6-base-dev fonts-dejavu-core poppler-utils)
+                   qt6-base-dev fonts-dejavu-core pkgconf poppler-utils)
 
 textzone_install_deps() {
   local missing=()

@@ -2,9 +2,10 @@
 // in crColor until the next run.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "platform/Types.h"
 
-class CColorDef {
+class TEXTZONE_EXPORT CColorDef {
 public:
     CColorDef() = default;
     CColorDef(int pos, COLORREF color) : nPos(pos), crColor(color) {}

@@ -6,9 +6,10 @@
 
 #include <cstdint>
 
+#include "TextzoneExport.h"
 #include "textzone/StringEx.h"
 
-class CStringExColor : public CStringEx {
+class TEXTZONE_EXPORT CStringExColor : public CStringEx {
 public:
     CStringExColor() = default;
     explicit CStringExColor(const char* psz) : CStringEx(psz) {}

@@ -21,6 +21,7 @@
 #include <string>
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "colour/ColorDef.h"
 #include "colour/KeywordIndex.h"
 #include "colour/StringExColor.h"
@@ -48,7 +49,7 @@ constexpr std::uint32_t LS_BRACKET = 4;  // inside a [ identifier
 constexpr std::uint32_t LS_COMMENT = 5;  // a block comment; 5 + n with n more nested
 constexpr std::uint32_t LS_BRACE = 6;    // a Pascal { comment
 
-class CTextZoneColor : public CTextZone {
+class TEXTZONE_EXPORT CTextZoneColor : public CTextZone {
 public:
     CTextZoneColor();
     ~CTextZoneColor() override;

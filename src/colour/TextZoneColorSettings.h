@@ -4,9 +4,10 @@
 
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "platform/Types.h"
 
-class CTextZoneColorSettings {
+class TEXTZONE_EXPORT CTextZoneColorSettings {
 public:
     short m_wSelectionMode = 1;
     LONG m_lSelStart = 0;

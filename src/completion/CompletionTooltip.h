@@ -3,13 +3,14 @@
 // never takes the focus; its zone opens, moves and closes it.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "host/VeskString.h"
 #include "platform/Font.h"
 #include "platform/Wnd.h"
 
 class CTextZoneColor;
 
-class CCompletionTooltip : public CWnd {
+class TEXTZONE_EXPORT CCompletionTooltip : public CWnd {
 public:
     CCompletionTooltip(const VESK::String& strName, const VESK::String& strParms, int bNoParens,
                        CWnd* pParent, CTextZoneColor* pZone);

@@ -7,6 +7,7 @@
 
 #include <memory>
 
+#include "TextzoneExport.h"
 #include "host/Singleton.h"
 #include "host/VeskString.h"
 #include "platform/FindReplaceDialog.h"
@@ -14,7 +15,7 @@
 class CTextZone;
 
 // The dialog of the editors: it reports to the editor that owns the search.
-class CEditFindReplaceDialog : public CFindReplaceDialog {
+class TEXTZONE_EXPORT CEditFindReplaceDialog : public CFindReplaceDialog {
 public:
     HWND m_hwndOwner = nullptr;
 
@@ -23,7 +24,7 @@ protected:
 };
 
 // What an editor gives the shared dialog logic.
-class IFindReplaceTarget {
+class TEXTZONE_EXPORT IFindReplaceTarget {
 public:
     virtual ~IFindReplaceTarget() = default;
     virtual CTextZone* GetFindZone() = 0;
@@ -40,7 +41,7 @@ public:
     virtual void OnReplaceAll(const char* pszFind, const char* pszReplace, int bCase) = 0;
 };
 
-class CEditFindReplace {
+class TEXTZONE_EXPORT CEditFindReplace {
 public:
     static CEditFindReplace& Instance();
     virtual ~CEditFindReplace();

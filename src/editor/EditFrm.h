@@ -3,9 +3,10 @@
 // repainted, not the whole view.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "platform/MDIChildWnd.h"
 
-class CEditFrm : public CMDIChildWnd {
+class TEXTZONE_EXPORT CEditFrm : public CMDIChildWnd {
 public:
     // The frame's icon, by its resource id.
     static constexpr UINT kIconId = 128;

@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 
+#include "TextzoneExport.h"
 #include "editor/OleEditDropTarget.h"
 #include "host/VeskString.h"
 #include "platform/Wnd.h"
@@ -15,7 +16,7 @@
 class CFont;
 class CTextZone;
 
-class CEditor : public CWnd, public IOleEditDropSink {
+class TEXTZONE_EXPORT CEditor : public CWnd, public IOleEditDropSink {
 public:
     // With a zone it is borrowed; without one the control makes its own.
     explicit CEditor(CTextZone* pZone = nullptr);

@@ -7,6 +7,7 @@
 
 #include <memory>
 
+#include "TextzoneExport.h"
 #include "host/VeskString.h"
 #include "platform/Font.h"
 #include "platform/Types.h"
@@ -14,7 +15,7 @@
 class CTextZoneParam;
 class CWnd;
 
-class CEditorDefaults {
+class TEXTZONE_EXPORT CEditorDefaults {
 public:
     // The option page shows and writes the same keys with the same defaults.
     static constexpr int kSyntaxColorCount = 9;

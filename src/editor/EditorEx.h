@@ -9,6 +9,7 @@
 // EditorExFind.cpp (its part in the find dialog the editors share).
 #pragma once
 
+#include "TextzoneExport.h"
 #include "editor/EditFindReplace.h"
 #include "editor/Editor.h"
 #include "editor/EditorDefaults.h"
@@ -18,10 +19,10 @@
 class CCmdUI;
 class CTextZoneParam;
 
-class CEditorEx : public CEditor,
-                  public CEditorDefaults,
-                  public IFindReplaceTarget,
-                  public IPrintClient {
+class TEXTZONE_EXPORT CEditorEx : public CEditor,
+                                  public CEditorDefaults,
+                                  public IFindReplaceTarget,
+                                  public IPrintClient {
 public:
     // With a zone it is borrowed; without one the control makes its own.
     explicit CEditorEx(CTextZoneParam* pZone = nullptr);

@@ -8,13 +8,14 @@
 #include <memory>
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "platform/Font.h"
 #include "platform/PrintJob.h"
 
 class CDC;
 class CTextZone;
 
-class CEditorPrinting {
+class TEXTZONE_EXPORT CEditorPrinting {
 public:
     // Page 1 starts at the top; the screen font scaled to the printer, unless
     // it is the device's own "system" font.

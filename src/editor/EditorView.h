@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "editor/EditFindReplace.h"
 #include "editor/EditorPrinting.h"
 #include "editor/OleEditDropTarget.h"
@@ -16,7 +17,9 @@
 class CFont;
 class CTextZone;
 
-class CEditorView : public CVeskView, public IOleEditDropSink, public IFindReplaceTarget {
+class TEXTZONE_EXPORT CEditorView : public CVeskView,
+                                    public IOleEditDropSink,
+                                    public IFindReplaceTarget {
 public:
     ~CEditorView() override;
 

@@ -4,12 +4,13 @@
 // adds box and stream mode, bookmarks, select all and the status panes.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "editor/EditorDefaults.h"
 #include "editor/EditorView.h"
 
 class CTextZoneParam;
 
-class CEditorViewEx : public CEditorView, public CEditorDefaults {
+class TEXTZONE_EXPORT CEditorViewEx : public CEditorView, public CEditorDefaults {
 public:
     ~CEditorViewEx() override;
     // A view with a zone of its own, as a document template makes it.

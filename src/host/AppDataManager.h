@@ -5,8 +5,10 @@
 
 #include <string>
 
+#include "TextzoneExport.h"
+
 // Named values in sections, like a profile file.
-class IAppSettings {
+class TEXTZONE_EXPORT IAppSettings {
 public:
     virtual ~IAppSettings() = default;
     // Copies the value, or def when there is none, into buffer: at most
@@ -20,7 +22,7 @@ public:
     virtual void WriteInt(const char* section, const char* key, int value) = 0;
 };
 
-class IAppDirectory {
+class TEXTZONE_EXPORT IAppDirectory {
 public:
     virtual ~IAppDirectory() = default;
     // Fills buffer with the data directory, ending in the separator, and
@@ -29,7 +31,7 @@ public:
     virtual int GetDataDirectory(char* buffer, int size, char separator) = 0;
 };
 
-class IAppDataManager {
+class TEXTZONE_EXPORT IAppDataManager {
 public:
     // GetSettings must stay the first virtual operation: callers reach the
     // settings object through it before anything else. Either may be null.
@@ -38,7 +40,7 @@ public:
     virtual ~IAppDataManager() = default;
 };
 
-class AppDataManager {
+class TEXTZONE_EXPORT AppDataManager {
 public:
     // The installed manager, or null.
     static IAppDataManager* LoadAppDataManager();
@@ -49,13 +51,15 @@ public:
 // Reads as the editor does them, from the manager installed at the time of the
 // call, with a 4096-byte string buffer. Without a manager or settings object an
 // integer reads 0 (not def) and a string reads empty, and writes are dropped.
-std::string ReadSettingString(const char* section, const char* key, const char* def);
-int ReadSettingInt(const char* section, const char* key, int def);
-void WriteSettingString(const char* section, const char* key, const char* value);
-void WriteSettingInt(const char* section, const char* key, int value);
+TEXTZONE_EXPORT std::string ReadSettingString(const char* section, const char* key,
+                                              const char* def);
+TEXTZONE_EXPORT int ReadSettingInt(const char* section, const char* key, int def);
+TEXTZONE_EXPORT void WriteSettingString(const char* section, const char* key, const char* value);
+TEXTZONE_EXPORT void WriteSettingInt(const char* section, const char* key, int value);
 
 // For implementations of the interfaces above.
 // Copies value into buffer by the ReadString rule (truncated, always 0-ended).
-void CopySettingString(const std::string& value, char* buffer, int size);
+TEXTZONE_EXPORT void CopySettingString(const std::string& value, char* buffer, int size);
 // Formats directory by the GetDataDirectory rule; an empty directory gives 0.
-int FormatDataDirectory(const std::string& directory, char* buffer, int size, char separator);
+TEXTZONE_EXPORT int FormatDataDirectory(const std::string& directory, char* buffer, int size,
+                                        char separator);

@@ -8,11 +8,12 @@
 
 #include <cstddef>
 
+#include "TextzoneExport.h"
 #include "platform/Types.h"
 
 namespace VESK {
 
-class ICollator {
+class TEXTZONE_EXPORT ICollator {
 public:
     virtual ~ICollator();
     // In place over n bytes; 0 bytes inside the range are converted like any
@@ -24,7 +25,7 @@ public:
     virtual int compareNoCase(const char* a, const char* b) const = 0;
 };
 
-class CollatorFactory {
+class TEXTZONE_EXPORT CollatorFactory {
 public:
     // A static instance shared by all callers; never null.
     static ICollator* getSystemCollator();
@@ -32,21 +33,21 @@ public:
 
 }  // namespace VESK
 
-unsigned char ToUpper1252(unsigned char c);
-unsigned char ToLower1252(unsigned char c);
-bool IsUpper1252(unsigned char c);
-bool IsLower1252(unsigned char c);
-bool IsAlpha1252(unsigned char c);
+TEXTZONE_EXPORT unsigned char ToUpper1252(unsigned char c);
+TEXTZONE_EXPORT unsigned char ToLower1252(unsigned char c);
+TEXTZONE_EXPORT bool IsUpper1252(unsigned char c);
+TEXTZONE_EXPORT bool IsLower1252(unsigned char c);
+TEXTZONE_EXPORT bool IsAlpha1252(unsigned char c);
 
 // In place up to the terminating 0; return the argument (null stays null).
-char* CharUpperA(char* psz);
-char* CharLowerA(char* psz);
+TEXTZONE_EXPORT char* CharUpperA(char* psz);
+TEXTZONE_EXPORT char* CharLowerA(char* psz);
 // In place over exactly n bytes; return n.
-DWORD CharUpperBuffA(char* p, DWORD n);
-DWORD CharLowerBuffA(char* p, DWORD n);
+TEXTZONE_EXPORT DWORD CharUpperBuffA(char* p, DWORD n);
+TEXTZONE_EXPORT DWORD CharLowerBuffA(char* p, DWORD n);
 
 // Compare the lower-cased bytes as unsigned values, like the C runtime's
 // functions of the same names: negative, 0 or positive; the 0 byte ends a
 // string, and _strnicmp looks at no more than n bytes.
-int _stricmp(const char* a, const char* b);
-int _strnicmp(const char* a, const char* b, std::size_t n);
+TEXTZONE_EXPORT int _stricmp(const char* a, const char* b);
+TEXTZONE_EXPORT int _strnicmp(const char* a, const char* b, std::size_t n);

@@ -4,10 +4,11 @@
 // where the one before it ended, so a long line shows without a gap.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "host/VeskString.h"
 #include "platform/Types.h"
 
-class GraphicText {
+class TEXTZONE_EXPORT GraphicText {
 public:
     static constexpr int kPieceLength = 1024;
 

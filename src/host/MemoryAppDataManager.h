@@ -9,9 +9,12 @@
 #include <utility>
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "host/AppDataManager.h"
 
-class CMemoryAppDataManager : public IAppDataManager, public IAppSettings, public IAppDirectory {
+class TEXTZONE_EXPORT CMemoryAppDataManager : public IAppDataManager,
+                                              public IAppSettings,
+                                              public IAppDirectory {
 public:
     CMemoryAppDataManager() = default;
     CMemoryAppDataManager(const CMemoryAppDataManager&) = delete;

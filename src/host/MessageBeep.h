@@ -1,6 +1,7 @@
 // The host family's refusal sound: every refused edit makes it.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "platform/Types.h"
 
-BOOL VESKMessageBeep(UINT uType);
+TEXTZONE_EXPORT BOOL VESKMessageBeep(UINT uType);

@@ -6,9 +6,10 @@
 
 #include <string>
 
+#include "TextzoneExport.h"
 #include "host/AppDataManager.h"
 
-class CUserDataDirectory : public IAppDirectory {
+class TEXTZONE_EXPORT CUserDataDirectory : public IAppDirectory {
 public:
     // The directory from the environment now; empty when neither
     // XDG_DATA_HOME nor HOME gives an absolute path.

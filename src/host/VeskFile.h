@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <string>
 
+#include "TextzoneExport.h"
 #include "platform/Messages.h"
 #include "platform/Types.h"
 
@@ -19,20 +20,22 @@ inline const HANDLE INVALID_HANDLE_VALUE = reinterpret_cast<HANDLE>(static_cast<
 
 // Returns INVALID_HANDLE_VALUE on failure, never null. security, flags and
 // hTemplate are ignored; directories cannot be opened.
-HANDLE VESK_CreateFile(const char* path, DWORD access, DWORD share, void* security, DWORD creation,
-                       DWORD flags, HANDLE hTemplate);
+TEXTZONE_EXPORT HANDLE VESK_CreateFile(const char* path, DWORD access, DWORD share, void* security,
+                                       DWORD creation, DWORD flags, HANDLE hTemplate);
 // Reading at the end of the file succeeds with 0 bytes read. FALSE on a read
 // error, a handle without GENERIC_READ, or a handle that is not open.
 // Overlapped I/O is not supported: a non-null overlapped fails.
-BOOL ReadFile(HANDLE hFile, void* buffer, DWORD toRead, DWORD* read, void* overlapped);
+TEXTZONE_EXPORT BOOL ReadFile(HANDLE hFile, void* buffer, DWORD toRead, DWORD* read,
+                              void* overlapped);
 // FALSE unless every byte was written. Written data is handed to the system
 // before returning, so other readers of the file see it at once.
-BOOL WriteFile(HANDLE hFile, const void* buffer, DWORD toWrite, DWORD* written, void* overlapped);
+TEXTZONE_EXPORT BOOL WriteFile(HANDLE hFile, const void* buffer, DWORD toWrite, DWORD* written,
+                               void* overlapped);
 // FALSE for a handle that is not open (closing twice is harmless).
-BOOL CloseHandle(HANDLE hObject);
+TEXTZONE_EXPORT BOOL CloseHandle(HANDLE hObject);
 
 // Whole 8-bit files, bytes as they are (no line-end translation).
 // On failure out is left unchanged.
-bool ReadWholeFile(const std::string& path, std::string& out);
+TEXTZONE_EXPORT bool ReadWholeFile(const std::string& path, std::string& out);
 // Creates or truncates the file; false if any byte could not be written.
-bool WriteWholeFile(const std::string& path, const std::string& bytes);
+TEXTZONE_EXPORT bool WriteWholeFile(const std::string& path, const std::string& bytes);

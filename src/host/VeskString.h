@@ -8,9 +8,11 @@
 #include <concepts>
 #include <string>
 
+#include "TextzoneExport.h"
+
 namespace VESK {
 
-class String {
+class TEXTZONE_EXPORT String {
 public:
     String() = default;
     String(const char* psz);  // null is the empty string

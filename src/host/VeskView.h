@@ -3,6 +3,7 @@
 // the framework's view.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "platform/View.h"
 
-class CVeskView : public CView {};
+class TEXTZONE_EXPORT CVeskView : public CView {};

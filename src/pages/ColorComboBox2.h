@@ -4,9 +4,10 @@
 // saturation, so related colours stand together.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "platform/ComboBox.h"
 
-class CColorComboBox2 : public CComboBox {
+class TEXTZONE_EXPORT CColorComboBox2 : public CComboBox {
 public:
     // One item per entry of the default palette, item n with data n.
     void AddColors();

@@ -7,6 +7,7 @@
 
 #include <string>
 
+#include "TextzoneExport.h"
 #include "host/VeskString.h"
 #include "pages/ColorComboBox2.h"
 #include "platform/Font.h"
@@ -14,7 +15,7 @@
 #include "platform/PropertyPage.h"
 #include "platform/Static.h"
 
-class CEditorFontPage : public CPropertyPage {
+class TEXTZONE_EXPORT CEditorFontPage : public CPropertyPage {
 public:
     // pSection null means "Editor".
     explicit CEditorFontPage(const char* pSection = nullptr);

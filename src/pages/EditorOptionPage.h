@@ -5,13 +5,14 @@
 // eight syntax colours, T-SQL with a ninth for identifiers.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "host/VeskString.h"
 #include "pages/ColorComboBox2.h"
 #include "platform/ListBox.h"
 #include "platform/PropertyPage.h"
 #include "platform/Static.h"
 
-class CEditorOptionPage : public CPropertyPage {
+class TEXTZONE_EXPORT CEditorOptionPage : public CPropertyPage {
 public:
     static constexpr int kMaxItems = 9;
 

@@ -4,13 +4,14 @@
 // CR LF line ends, and every open editor reloads it.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "host/VeskString.h"
 #include "pages/ListCtrlEx.h"
 #include "platform/Button.h"
 #include "platform/Edit.h"
 #include "platform/PropertyPage.h"
 
-class CEditorShortcutPage : public CPropertyPage {
+class TEXTZONE_EXPORT CEditorShortcutPage : public CPropertyPage {
 public:
     // pSection null means "Editor_Shortcuts".
     explicit CEditorShortcutPage(const char* pSection = nullptr);

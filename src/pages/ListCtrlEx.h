@@ -10,9 +10,10 @@
 #include <string>
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "platform/ListCtrl.h"
 
-class CListCtrlEx : public CListCtrl {
+class TEXTZONE_EXPORT CListCtrlEx : public CListCtrl {
 public:
     ~CListCtrlEx() override;
 

@@ -3,9 +3,11 @@
 // The sheet keeps each page and deletes it with itself.
 #pragma once
 
+#include "TextzoneExport.h"
+
 class CPropertySheet;
 
-void EditEx32_AddOptionPage(CPropertySheet* pSheet, char const* pSection);
-void EditEx32_AddOptionPageTSQL(CPropertySheet* pSheet, char const* pSection);
-void EditEx32_AddFontPage(CPropertySheet* pSheet, char const* pSection);
-void EditEx32_AddShortcutPage(CPropertySheet* pSheet, char const* pSection);
+TEXTZONE_EXPORT void EditEx32_AddOptionPage(CPropertySheet* pSheet, char const* pSection);
+TEXTZONE_EXPORT void EditEx32_AddOptionPageTSQL(CPropertySheet* pSheet, char const* pSection);
+TEXTZONE_EXPORT void EditEx32_AddFontPage(CPropertySheet* pSheet, char const* pSection);
+TEXTZONE_EXPORT void EditEx32_AddShortcutPage(CPropertySheet* pSheet, char const* pSection);

@@ -1,9 +1,10 @@
 // A solid brush the caller owns.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "platform/OwnedGdiObject.h"
 
-class CBrush : public COwnedGdiObject<HBRUSH> {
+class TEXTZONE_EXPORT CBrush : public COwnedGdiObject<HBRUSH> {
 public:
     CBrush() = default;
     explicit CBrush(COLORREF cr) { CreateSolidBrush(cr); }

@@ -3,9 +3,10 @@
 // of its group), then the page hears BN_CLICKED.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "platform/DialogControl.h"
 
-class CButton : public CDialogControl {
+class TEXTZONE_EXPORT CButton : public CDialogControl {
 public:
     int GetCheck() const { return m_nCheck; }
     void SetCheck(int nCheck);

@@ -3,6 +3,7 @@
 // here, portably; the owner's peer is told to draw it.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "platform/Types.h"
 
 struct CaretInfo {
@@ -14,12 +15,12 @@ struct CaretInfo {
     bool IsVisible() const { return pOwner && nHideCount == 0; }
 };
 
-const CaretInfo& GetCaretInfo();
+TEXTZONE_EXPORT const CaretInfo& GetCaretInfo();
 
-BOOL CreateCaret(HWND hWnd, void* hBitmap, int nWidth, int nHeight);
-BOOL DestroyCaret();
-BOOL ShowCaret(HWND hWnd);
-BOOL HideCaret(HWND hWnd);
-BOOL SetCaretPos(int x, int y);
+TEXTZONE_EXPORT BOOL CreateCaret(HWND hWnd, void* hBitmap, int nWidth, int nHeight);
+TEXTZONE_EXPORT BOOL DestroyCaret();
+TEXTZONE_EXPORT BOOL ShowCaret(HWND hWnd);
+TEXTZONE_EXPORT BOOL HideCaret(HWND hWnd);
+TEXTZONE_EXPORT BOOL SetCaretPos(int x, int y);
 // FALSE when there is no caret.
-BOOL GetCaretPos(POINT* ppt);
+TEXTZONE_EXPORT BOOL GetCaretPos(POINT* ppt);

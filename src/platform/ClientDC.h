@@ -1,9 +1,10 @@
 // A drawing context on a window's client area for the length of a scope.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "platform/Wnd.h"
 
-class CClientDC {
+class TEXTZONE_EXPORT CClientDC {
 public:
     explicit CClientDC(CWnd* pWnd) : m_pWnd(pWnd), m_pDC(pWnd ? pWnd->GetDC() : nullptr) {}
     ~CClientDC() {

@@ -6,11 +6,12 @@
 
 #include <string>
 
+#include "TextzoneExport.h"
 #include "platform/Types.h"
 
 class CWnd;
 
-class CCmdUI {
+class TEXTZONE_EXPORT CCmdUI {
 public:
     virtual ~CCmdUI() = default;
 

@@ -5,10 +5,11 @@
 
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "platform/DialogControl.h"
 #include "platform/OwnerDraw.h"
 
-class CComboBox : public CDialogControl {
+class TEXTZONE_EXPORT CComboBox : public CDialogControl {
 public:
     // Adds an item with this data; returns its index.
     int AddItem(DWORD_PTR dwData);

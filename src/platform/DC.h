@@ -8,6 +8,7 @@
 #include <optional>
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "platform/FontMetrics.h"
 #include "platform/GdiObjects.h"
 #include "platform/Rgn.h"
@@ -19,7 +20,7 @@ class CFont;
 class CBrush;
 class CPen;
 
-class CDC {
+class TEXTZONE_EXPORT CDC {
 public:
     CDC();
     virtual ~CDC();
@@ -165,9 +166,9 @@ private:
 };
 
 // Free forms of the calls above, for code that holds a handle.
-DWORD GetTabbedTextExtentA(HDC hDC, const char* psz, int nCount, int nTabPositions,
-                           const int* pTabStops);
-LONG TabbedTextOutA(HDC hDC, int x, int y, const char* psz, int nCount, int nTabPositions,
-                    const int* pTabStops, int nTabOrigin);
-BOOL GetTextExtentPoint32A(HDC hDC, const char* psz, int nCount, SIZE* psz2);
-BOOL GetTextMetricsA(HDC hDC, TEXTMETRICA* ptm);
+TEXTZONE_EXPORT DWORD GetTabbedTextExtentA(HDC hDC, const char* psz, int nCount, int nTabPositions,
+                                           const int* pTabStops);
+TEXTZONE_EXPORT LONG TabbedTextOutA(HDC hDC, int x, int y, const char* psz, int nCount,
+                                    int nTabPositions, const int* pTabStops, int nTabOrigin);
+TEXTZONE_EXPORT BOOL GetTextExtentPoint32A(HDC hDC, const char* psz, int nCount, SIZE* psz2);
+TEXTZONE_EXPORT BOOL GetTextMetricsA(HDC hDC, TEXTMETRICA* ptm);

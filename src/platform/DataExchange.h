@@ -5,12 +5,13 @@
 
 #include <string>
 
+#include "TextzoneExport.h"
 #include "platform/Types.h"
 
 class CDialogControl;
 class CPropertyPage;
 
-class CDataExchange {
+class TEXTZONE_EXPORT CDataExchange {
 public:
     CDataExchange(CPropertyPage* pDlgWnd, BOOL bSaveAndValidate)
         : m_bSaveAndValidate(bSaveAndValidate), m_pDlgWnd(pDlgWnd) {}
@@ -25,12 +26,12 @@ private:
     bool m_bFailed = false;
 };
 
-void DDX_Control(CDataExchange* pDX, int nIDC, CDialogControl& rControl);
-void DDX_Check(CDataExchange* pDX, int nIDC, int& value);
-void DDX_Text(CDataExchange* pDX, int nIDC, int& value);
-void DDX_Text(CDataExchange* pDX, int nIDC, std::string& value);
+TEXTZONE_EXPORT void DDX_Control(CDataExchange* pDX, int nIDC, CDialogControl& rControl);
+TEXTZONE_EXPORT void DDX_Check(CDataExchange* pDX, int nIDC, int& value);
+TEXTZONE_EXPORT void DDX_Text(CDataExchange* pDX, int nIDC, int& value);
+TEXTZONE_EXPORT void DDX_Text(CDataExchange* pDX, int nIDC, std::string& value);
 // The selected item's index; -1 for none.
-void DDX_LBIndex(CDataExchange* pDX, int nIDC, int& index);
+TEXTZONE_EXPORT void DDX_LBIndex(CDataExchange* pDX, int nIDC, int& index);
 // The selected item's text: loading selects the item of exactly that text
 // (none if there is none), saving reads it (empty without a selection).
-void DDX_LBString(CDataExchange* pDX, int nIDC, std::string& value);
+TEXTZONE_EXPORT void DDX_LBString(CDataExchange* pDX, int nIDC, std::string& value);

@@ -7,20 +7,21 @@
 
 #include <string>
 
+#include "TextzoneExport.h"
 #include "platform/DialogTemplate.h"
 #include "platform/Types.h"
 
 class CPropertyPage;
 
 // What a backend shows a control with.
-class IControlView {
+class TEXTZONE_EXPORT IControlView {
 public:
     virtual ~IControlView() = default;
     // The control's state changed: show it again.
     virtual void Refresh() = 0;
 };
 
-class CDialogControl {
+class TEXTZONE_EXPORT CDialogControl {
 public:
     CDialogControl() = default;
     virtual ~CDialogControl();

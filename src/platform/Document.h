@@ -6,13 +6,14 @@
 #include <string>
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "platform/Types.h"
 
 class CCmdUI;
 class CFrameWnd;
 class CView;
 
-class CDocument {
+class TEXTZONE_EXPORT CDocument {
 public:
     CDocument() = default;
     virtual ~CDocument();

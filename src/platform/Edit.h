@@ -2,9 +2,10 @@
 // the page EN_CHANGE, as the edit control does.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "platform/DialogControl.h"
 
-class CEdit : public CDialogControl {
+class TEXTZONE_EXPORT CEdit : public CDialogControl {
 public:
     void SetWindowText(const char* pszText) override;
     // 0 is the control's own limit.

@@ -9,6 +9,7 @@
 
 #include <string>
 
+#include "TextzoneExport.h"
 #include "platform/Messages.h"
 #include "platform/Wnd.h"
 
@@ -24,7 +25,7 @@ struct FINDREPLACEA {
 };
 using FINDREPLACE = FINDREPLACEA;
 
-class CFindReplaceDialog : public CWnd {
+class TEXTZONE_EXPORT CFindReplaceDialog : public CWnd {
 public:
     // The class name its windows are made with; a backend gives them a dialog.
     static constexpr const char* kClassName = "FindReplaceDialog";

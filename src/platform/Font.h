@@ -1,9 +1,10 @@
 // A font the caller owns.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "platform/OwnedGdiObject.h"
 
-class CFont : public COwnedGdiObject<HFONT> {
+class TEXTZONE_EXPORT CFont : public COwnedGdiObject<HFONT> {
 public:
     BOOL CreateFontIndirect(const LOGFONTA* plf) { return Attach(CreateFontIndirectA(plf)); }
     BOOL CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientation, int nWeight,

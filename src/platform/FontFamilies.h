@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "platform/Types.h"
 
 struct FontFamilyInfo {
@@ -16,20 +17,21 @@ struct FontFamilyInfo {
     bool bTrueType;
 };
 
-class IFontFamilySource {
+class TEXTZONE_EXPORT IFontFamilySource {
 public:
     virtual ~IFontFamilySource() = default;
     virtual std::vector<FontFamilyInfo> GetFontFamilies() = 0;
 };
 
 // Not owned; null goes back to the built-in list. Returns the one replaced.
-IFontFamilySource* SetFontFamilySource(IFontFamilySource* pSource);
+TEXTZONE_EXPORT IFontFamilySource* SetFontFamilySource(IFontFamilySource* pSource);
 // The built-in list.
-std::vector<FontFamilyInfo> GetBuiltInFontFamilies();
+TEXTZONE_EXPORT std::vector<FontFamilyInfo> GetBuiltInFontFamilies();
 
 struct TEXTMETRICA;
 using FONTENUMPROCA = int (*)(const LOGFONTA* plf, const TEXTMETRICA* ptm, DWORD dwFontType,
                               LPARAM lParam);
 // pszFamily null: every family. Returns the last value of the callback;
 // a 0 from it ends the enumeration.
-int EnumFontFamiliesA(HDC hDC, const char* pszFamily, FONTENUMPROCA pfn, LPARAM lParam);
+TEXTZONE_EXPORT int EnumFontFamiliesA(HDC hDC, const char* pszFamily, FONTENUMPROCA pfn,
+                                      LPARAM lParam);

@@ -2,12 +2,13 @@
 // it before its own handlers, and shows the title of the active document.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "platform/Wnd.h"
 
 class CDocument;
 class CView;
 
-class CFrameWnd : public CWnd {
+class TEXTZONE_EXPORT CFrameWnd : public CWnd {
 public:
     CView* GetActiveView() const { return m_pActiveView; }
     // Tells the old and the new view with OnActivateView when bNotify.

@@ -4,6 +4,7 @@
 // object is harmless.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "platform/Types.h"
 
 struct GdiObject {
@@ -34,16 +35,16 @@ struct PenObject : GdiObject {
     COLORREF lopnColor;
 };
 
-HFONT CreateFontIndirectA(const LOGFONTA* plf);
-HBRUSH CreateSolidBrush(COLORREF cr);
-HPEN CreatePen(int nStyle, int nWidth, COLORREF cr);
+TEXTZONE_EXPORT HFONT CreateFontIndirectA(const LOGFONTA* plf);
+TEXTZONE_EXPORT HBRUSH CreateSolidBrush(COLORREF cr);
+TEXTZONE_EXPORT HPEN CreatePen(int nStyle, int nWidth, COLORREF cr);
 // Stock objects by their desktop ids (WHITE_BRUSH, NULL_PEN, SYSTEM_FONT, ...);
 // null for an unknown id.
-HGDIOBJ GetStockObject(int nIndex);
-BOOL DeleteObject(HGDIOBJ hObject);
+TEXTZONE_EXPORT HGDIOBJ GetStockObject(int nIndex);
+TEXTZONE_EXPORT BOOL DeleteObject(HGDIOBJ hObject);
 // Copies the object's description (LOGFONTA for a font) and returns the bytes
 // written; with a null buffer returns the size needed.
-int GetObjectA(HGDIOBJ hObject, int cbBuffer, void* pv);
+TEXTZONE_EXPORT int GetObjectA(HGDIOBJ hObject, int cbBuffer, void* pv);
 
 // The face of the stock fonts, for backends that map faces to real fonts.
 constexpr const char* kSystemFontFace = "System";

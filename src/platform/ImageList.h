@@ -5,11 +5,12 @@
 
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "platform/Types.h"
 
 class CDC;
 
-class CImageList {
+class TEXTZONE_EXPORT CImageList {
 public:
     BOOL Create(int cx, int cy, UINT nFlags, int nInitial, int nGrow);
     // Appends an image of cx * cy pixels, row by row; returns its index or -1.
@@ -25,4 +26,5 @@ private:
     std::vector<std::vector<DWORD>> m_images;
 };
 
-BOOL ImageList_Draw(const CImageList* himl, int i, HDC hdcDst, int x, int y, UINT fStyle);
+TEXTZONE_EXPORT BOOL ImageList_Draw(const CImageList* himl, int i, HDC hdcDst, int x, int y,
+                                    UINT fStyle);

@@ -6,9 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "platform/DialogControl.h"
 
-class CListBox : public CDialogControl {
+class TEXTZONE_EXPORT CListBox : public CDialogControl {
 public:
     int AddString(const char* pszItem);
     void ResetContent();

@@ -6,12 +6,13 @@
 #include <string>
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "platform/DialogControl.h"
 #include "platform/OwnerDraw.h"
 
 constexpr int LVCFMT_LEFT = 0;
 
-class CListCtrl : public CDialogControl {
+class TEXTZONE_EXPORT CListCtrl : public CDialogControl {
 public:
     struct Column {
         std::string strTitle;

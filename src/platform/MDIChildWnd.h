@@ -3,12 +3,13 @@
 // document before it closes.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "platform/FrameWnd.h"
 
 class CDocument;
 class CMDIFrameWnd;
 
-class CMDIChildWnd : public CFrameWnd {
+class TEXTZONE_EXPORT CMDIChildWnd : public CFrameWnd {
 public:
     // Makes the frame window inside the main frame, and the view in it,
     // showing the document.

@@ -7,13 +7,14 @@
 #include <memory>
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "platform/FrameWnd.h"
 #include "platform/StatusBar.h"
 
 class CDocument;
 class CMDIChildWnd;
 
-class IMDIFrameObserver {
+class TEXTZONE_EXPORT IMDIFrameObserver {
 public:
     virtual ~IMDIFrameObserver() = default;
     virtual void OnChildAdded(CMDIChildWnd* pChild) = 0;
@@ -22,7 +23,7 @@ public:
     virtual void OnChildRemoved(CMDIChildWnd* pChild) = 0;
 };
 
-class CMDIFrameWnd : public CFrameWnd {
+class TEXTZONE_EXPORT CMDIFrameWnd : public CFrameWnd {
 public:
     ~CMDIFrameWnd() override;
 

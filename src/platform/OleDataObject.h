@@ -5,9 +5,10 @@
 #include <optional>
 #include <string>
 
+#include "TextzoneExport.h"
 #include "platform/Types.h"
 
-class COleDataObject {
+class TEXTZONE_EXPORT COleDataObject {
 public:
     COleDataObject() = default;
     explicit COleDataObject(std::string text) : m_text(std::move(text)) {}

@@ -4,11 +4,12 @@
 
 #include <string>
 
+#include "TextzoneExport.h"
 #include "platform/Types.h"
 
 class CWnd;
 
-class COleDataSource {
+class TEXTZONE_EXPORT COleDataSource {
 public:
     // The text is kept as given; a terminating 0 is not part of it.
     void CacheGlobalData(UINT cfFormat, const std::string& data);

@@ -2,12 +2,13 @@
 // the drag entering, moving over, leaving and dropping.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "platform/Types.h"
 
 class CWnd;
 class COleDataObject;
 
-class COleDropTarget {
+class TEXTZONE_EXPORT COleDropTarget {
 public:
     virtual ~COleDropTarget();
 

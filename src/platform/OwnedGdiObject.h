@@ -4,10 +4,11 @@
 
 #include <utility>
 
+#include "TextzoneExport.h"
 #include "platform/GdiObjects.h"
 
 template <typename Handle>
-class COwnedGdiObject {
+class TEXTZONE_EXPORT COwnedGdiObject {
 public:
     COwnedGdiObject() = default;
     ~COwnedGdiObject() { DeleteObject(); }

@@ -3,9 +3,10 @@
 // is clipped to what was invalid.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "platform/Wnd.h"
 
-class CPaintDC {
+class TEXTZONE_EXPORT CPaintDC {
 public:
     explicit CPaintDC(CWnd* pWnd) : m_pWnd(pWnd) {
         m_pDC = pWnd ? pWnd->BeginPaint(&m_ps) : nullptr;

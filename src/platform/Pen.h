@@ -1,9 +1,10 @@
 // A pen the caller owns.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "platform/OwnedGdiObject.h"
 
-class CPen : public COwnedGdiObject<HPEN> {
+class TEXTZONE_EXPORT CPen : public COwnedGdiObject<HPEN> {
 public:
     CPen() = default;
     CPen(int nStyle, int nWidth, COLORREF cr) { CreatePen(nStyle, nWidth, cr); }

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "platform/Types.h"
 
 class CDC;
@@ -25,7 +26,7 @@ struct HookObject {
 };
 using HHOOK = HookObject*;
 
-class IPlatform {
+class TEXTZONE_EXPORT IPlatform {
 public:
     virtual ~IPlatform() = default;
 
@@ -106,46 +107,48 @@ public:
 };
 
 // The installed platform, or null.
-IPlatform* GetPlatform();
+TEXTZONE_EXPORT IPlatform* GetPlatform();
 // Installs a platform (null uninstalls); returns the one it replaces.
-IPlatform* SetPlatform(IPlatform* pPlatform);
+TEXTZONE_EXPORT IPlatform* SetPlatform(IPlatform* pPlatform);
 
-SHORT GetKeyState(int nVirtKey);
-DWORD GetTickCount();
-COLORREF GetSysColor(int nIndex);
-int GetSystemMetrics(int nIndex);
-BOOL GetCursorPos(POINT* ppt);
-BOOL MessageBeep(UINT uType);
+TEXTZONE_EXPORT SHORT GetKeyState(int nVirtKey);
+TEXTZONE_EXPORT DWORD GetTickCount();
+TEXTZONE_EXPORT COLORREF GetSysColor(int nIndex);
+TEXTZONE_EXPORT int GetSystemMetrics(int nIndex);
+TEXTZONE_EXPORT BOOL GetCursorPos(POINT* ppt);
+TEXTZONE_EXPORT BOOL MessageBeep(UINT uType);
 
-HCURSOR LoadCursorA(HINSTANCE hInstance, int nCursorId);
-HCURSOR SetCursor(HCURSOR hCursor);
-int GetCursorId(HCURSOR hCursor);
+TEXTZONE_EXPORT HCURSOR LoadCursorA(HINSTANCE hInstance, int nCursorId);
+TEXTZONE_EXPORT HCURSOR SetCursor(HCURSOR hCursor);
+TEXTZONE_EXPORT int GetCursorId(HCURSOR hCursor);
 
-HWND SetFocus(HWND hWnd);
-HWND GetFocus();
-HWND SetCapture(HWND hWnd);
-BOOL ReleaseCapture();
-HWND GetCapture();
+TEXTZONE_EXPORT HWND SetFocus(HWND hWnd);
+TEXTZONE_EXPORT HWND GetFocus();
+TEXTZONE_EXPORT HWND SetCapture(HWND hWnd);
+TEXTZONE_EXPORT BOOL ReleaseCapture();
+TEXTZONE_EXPORT HWND GetCapture();
 
-BOOL PostMessageA(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
-LRESULT SendMessageA(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
-BOOL PeekMessageA(MSG* pMsg, HWND hWnd, UINT nFilterMin, UINT nFilterMax, UINT nRemove);
+TEXTZONE_EXPORT BOOL PostMessageA(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
+TEXTZONE_EXPORT LRESULT SendMessageA(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
+TEXTZONE_EXPORT BOOL PeekMessageA(MSG* pMsg, HWND hWnd, UINT nFilterMin, UINT nFilterMax,
+                                  UINT nRemove);
 // Ids from 0xC000 up, the same id for the same name within the process.
-UINT RegisterWindowMessageA(const char* pszName);
+TEXTZONE_EXPORT UINT RegisterWindowMessageA(const char* pszName);
 
-BOOL OpenClipboard(HWND hWnd);
-BOOL CloseClipboard();
-BOOL EmptyClipboard();
-BOOL SetClipboardData(UINT uFormat, const std::string& data);
-BOOL GetClipboardData(UINT uFormat, std::string* pData);
-BOOL IsClipboardFormatAvailable(UINT uFormat);
+TEXTZONE_EXPORT BOOL OpenClipboard(HWND hWnd);
+TEXTZONE_EXPORT BOOL CloseClipboard();
+TEXTZONE_EXPORT BOOL EmptyClipboard();
+TEXTZONE_EXPORT BOOL SetClipboardData(UINT uFormat, const std::string& data);
+TEXTZONE_EXPORT BOOL GetClipboardData(UINT uFormat, std::string* pData);
+TEXTZONE_EXPORT BOOL IsClipboardFormatAvailable(UINT uFormat);
 
-HHOOK SetWindowsHookExA(int idHook, HOOKPROC lpfn, HINSTANCE hMod, DWORD dwThreadId);
-BOOL UnhookWindowsHookEx(HHOOK hHook);
-LRESULT CallNextHookEx(HHOOK hHook, int nCode, WPARAM wParam, LPARAM lParam);
+TEXTZONE_EXPORT HHOOK SetWindowsHookExA(int idHook, HOOKPROC lpfn, HINSTANCE hMod,
+                                        DWORD dwThreadId);
+TEXTZONE_EXPORT BOOL UnhookWindowsHookEx(HHOOK hHook);
+TEXTZONE_EXPORT LRESULT CallNextHookEx(HHOOK hHook, int nCode, WPARAM wParam, LPARAM lParam);
 
 // A display context the caller frees with DeleteDC; null without a platform
 // or for a device this system cannot open.
-HDC CreateDCA(const char* pszDriver, const char* pszDevice, const char* pszPort,
-              const void* pInitData);
-BOOL DeleteDC(HDC hDC);
+TEXTZONE_EXPORT HDC CreateDCA(const char* pszDriver, const char* pszDevice, const char* pszPort,
+                              const void* pInitData);
+TEXTZONE_EXPORT BOOL DeleteDC(HDC hDC);

@@ -7,13 +7,14 @@
 #include <memory>
 #include <string>
 
+#include "TextzoneExport.h"
 #include "platform/PrintInfo.h"
 
 class CDC;
 class CWnd;
 
 // What a printed window supplies, in the order the loop calls it.
-class IPrintClient {
+class TEXTZONE_EXPORT IPrintClient {
 public:
     virtual ~IPrintClient() = default;
     // Asks where to print (DoPrintJobDialog); FALSE ends the job.
@@ -25,7 +26,7 @@ public:
     virtual void OnEndPrinting(CDC* pDC, CPrintInfo* pInfo) = 0;
 };
 
-class CPrintJob {
+class TEXTZONE_EXPORT CPrintJob {
 public:
     // The print dialog unless the job is direct, then the printer context
     // for the choice, kept in the job. FALSE when cancelled or when there is

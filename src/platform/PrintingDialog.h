@@ -6,9 +6,10 @@
 #include <functional>
 #include <string>
 
+#include "TextzoneExport.h"
 #include "platform/Wnd.h"
 
-class CPrintingDialog : public CWnd {
+class TEXTZONE_EXPORT CPrintingDialog : public CWnd {
 public:
     static constexpr UINT IDD = 30722;
     static constexpr const char* kClassName = "PrintingDialog";

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "platform/Brush.h"
 #include "platform/DialogControl.h"
 #include "platform/DialogTemplate.h"
@@ -19,7 +20,7 @@ class CDC;
 class CDataExchange;
 class CPropertySheet;
 
-class CPropertyPage {
+class TEXTZONE_EXPORT CPropertyPage {
 public:
     explicit CPropertyPage(const DLGTEMPLATE& dialog);
     virtual ~CPropertyPage();

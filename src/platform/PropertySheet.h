@@ -9,12 +9,13 @@
 #include <string>
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "platform/Types.h"
 
 class CPropertyPage;
 
 // What a backend shows a sheet with.
-class ISheetView {
+class TEXTZONE_EXPORT ISheetView {
 public:
     virtual ~ISheetView() = default;
     // The buttons' state changed.
@@ -23,7 +24,7 @@ public:
     virtual void PageCreated(int nPage) = 0;
 };
 
-class CPropertySheet {
+class TEXTZONE_EXPORT CPropertySheet {
 public:
     explicit CPropertySheet(const char* pszCaption = "");
     ~CPropertySheet();

@@ -4,9 +4,10 @@
 
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "platform/Types.h"
 
-class CRgn {
+class TEXTZONE_EXPORT CRgn {
 public:
     CRgn() = default;
     CRgn(const RECT& rc) { SetRectRgn(rc.left, rc.top, rc.right, rc.bottom); }

@@ -3,9 +3,10 @@
 // WM_VSCROLL, its own handle in the message's lParam.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "platform/Wnd.h"
 
-class CScrollBar : public CWnd {
+class TEXTZONE_EXPORT CScrollBar : public CWnd {
 public:
     // dwStyle holds SBS_VERT for a vertical bar.
     BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) override;

@@ -2,9 +2,10 @@
 // sets the edit's text to the next value within the range.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "platform/DialogControl.h"
 
-class CSpinButtonCtrl : public CDialogControl {
+class TEXTZONE_EXPORT CSpinButtonCtrl : public CDialogControl {
 public:
     // The range an up-down control has until one is set is 0 to 100.
     void SetRange(int nLower, int nUpper);

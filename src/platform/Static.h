@@ -2,11 +2,12 @@
 // chooses each time it is drawn (its WM_CTLCOLOR answer).
 #pragma once
 
+#include "TextzoneExport.h"
 #include "platform/DialogControl.h"
 
 class CFont;
 
-class CStatic : public CDialogControl {
+class TEXTZONE_EXPORT CStatic : public CDialogControl {
 public:
     struct Colors {
         COLORREF crText;

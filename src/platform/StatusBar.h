@@ -7,11 +7,12 @@
 #include <string>
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "platform/Wnd.h"
 
 class CFrameWnd;
 
-class CStatusBar : public CWnd {
+class TEXTZONE_EXPORT CStatusBar : public CWnd {
 public:
     BOOL SetIndicators(const UINT* pIDArray, int nIDCount);
     int CommandToIndex(UINT nID) const;

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "TextzoneExport.h"
+
 using BYTE = std::uint8_t;
 using WORD = std::uint16_t;
 using DWORD = std::uint32_t;
@@ -96,19 +98,19 @@ inline bool operator==(const RECT& a, const RECT& b) {
     return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
 }
 
-BOOL SetRect(RECT* prc, int left, int top, int right, int bottom);
-BOOL SetRectEmpty(RECT* prc);
-BOOL CopyRect(RECT* pDst, const RECT* pSrc);
-BOOL IsRectEmpty(const RECT* prc);
-BOOL PtInRect(const RECT* prc, POINT pt);
-BOOL OffsetRect(RECT* prc, int dx, int dy);
-BOOL InflateRect(RECT* prc, int dx, int dy);
+TEXTZONE_EXPORT BOOL SetRect(RECT* prc, int left, int top, int right, int bottom);
+TEXTZONE_EXPORT BOOL SetRectEmpty(RECT* prc);
+TEXTZONE_EXPORT BOOL CopyRect(RECT* pDst, const RECT* pSrc);
+TEXTZONE_EXPORT BOOL IsRectEmpty(const RECT* prc);
+TEXTZONE_EXPORT BOOL PtInRect(const RECT* prc, POINT pt);
+TEXTZONE_EXPORT BOOL OffsetRect(RECT* prc, int dx, int dy);
+TEXTZONE_EXPORT BOOL InflateRect(RECT* prc, int dx, int dy);
 // Empty result (all zero) when the two do not overlap; returns whether they do.
-BOOL IntersectRect(RECT* pDst, const RECT* pA, const RECT* pB);
-BOOL UnionRect(RECT* pDst, const RECT* pA, const RECT* pB);
-BOOL EqualRect(const RECT* pA, const RECT* pB);
+TEXTZONE_EXPORT BOOL IntersectRect(RECT* pDst, const RECT* pA, const RECT* pB);
+TEXTZONE_EXPORT BOOL UnionRect(RECT* pDst, const RECT* pA, const RECT* pB);
+TEXTZONE_EXPORT BOOL EqualRect(const RECT* pA, const RECT* pB);
 
-class CPoint : public POINT {
+class TEXTZONE_EXPORT CPoint : public POINT {
 public:
     CPoint() = default;
     CPoint(int x0, int y0) { x = x0, y = y0; }
@@ -118,14 +120,14 @@ public:
     CPoint operator-(const CPoint& o) const { return {x - o.x, y - o.y}; }
 };
 
-class CSize : public SIZE {
+class TEXTZONE_EXPORT CSize : public SIZE {
 public:
     CSize() = default;
     CSize(int cx0, int cy0) { cx = cx0, cy = cy0; }
     CSize(const SIZE& s) : SIZE(s) {}
 };
 
-class CRect : public RECT {
+class TEXTZONE_EXPORT CRect : public RECT {
 public:
     CRect() = default;
     CRect(int l, int t, int r, int b) { left = l, top = t, right = r, bottom = b; }

@@ -3,6 +3,7 @@
 // go on to its document. The printing hooks are for the print loop.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "platform/PrintJob.h"
 #include "platform/Wnd.h"
 
@@ -12,11 +13,11 @@ class CFrameWnd;
 struct CPrintInfo;
 
 // Handed to a view's Create through CREATESTRUCT::lpCreateParams.
-struct CCreateContext {
+struct TEXTZONE_EXPORT CCreateContext {
     CDocument* m_pCurrentDoc = nullptr;
 };
 
-class CView : public CWnd, public IPrintClient {
+class TEXTZONE_EXPORT CView : public CWnd, public IPrintClient {
 public:
     // The id a frame gives the view that fills it.
     static constexpr UINT kPaneId = 0xE900;

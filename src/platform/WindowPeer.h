@@ -5,12 +5,13 @@
 
 #include <memory>
 
+#include "TextzoneExport.h"
 #include "platform/Rgn.h"
 #include "platform/Types.h"
 
 class CDC;
 
-class IWindowPeer {
+class TEXTZONE_EXPORT IWindowPeer {
 public:
     virtual ~IWindowPeer() = default;
 

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "platform/Rgn.h"
 #include "platform/Types.h"
 #include "platform/WindowPeer.h"
@@ -40,9 +41,9 @@ struct PAINTSTRUCT {
 
 class CWnd;
 // The deepest visible window of this process under a point of the screen.
-CWnd* WindowFromPoint(POINT ptScreen);
+TEXTZONE_EXPORT CWnd* WindowFromPoint(POINT ptScreen);
 
-class CWnd {
+class TEXTZONE_EXPORT CWnd {
 public:
     CWnd();
     virtual ~CWnd();

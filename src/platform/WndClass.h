@@ -3,9 +3,11 @@
 // The same description gives the same name for the life of the process.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "platform/Types.h"
 
 using HICON = const void*;
 
-const char* AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor = nullptr,
-                                HBRUSH hbrBackground = nullptr, HICON hIcon = nullptr);
+TEXTZONE_EXPORT const char* AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor = nullptr,
+                                                HBRUSH hbrBackground = nullptr,
+                                                HICON hIcon = nullptr);

@@ -2,6 +2,7 @@
 // commands, and the texts that size its status panes.
 #pragma once
 
+#include "TextzoneExport.h"
 #include "platform/MenuModel.h"
 #include "platform/Types.h"
 
@@ -18,7 +19,7 @@ constexpr UINT ID_INDICATOR_MODE = 50162;
 
 // The pop-ups of the menu named, "&Edit" and "&View" for
 // "MENUEXTENDEDEDITORVIEW"; null for a name the library does not have.
-const MenuBar* LoadMenuResource(const char* pszName);
+TEXTZONE_EXPORT const MenuBar* LoadMenuResource(const char* pszName);
 // The string of an id: a command's prompt, or the text that sizes a
 // status pane; null when there is none.
-const char* LoadStringResource(UINT nID);
+TEXTZONE_EXPORT const char* LoadStringResource(UINT nID);

@@ -3,7 +3,9 @@
 // keeps these records in lists sorted by first line and owns them.
 #pragma once
 
-class CEditBlk {
+#include "TextzoneExport.h"
+
+class TEXTZONE_EXPORT CEditBlk {
 public:
     explicit CEditBlk(CEditBlk* pParent) : m_pParent(pParent) {}
     CEditBlk(const CEditBlk&) = default;

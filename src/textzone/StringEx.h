@@ -6,6 +6,7 @@
 
 #include <cstdint>
 
+#include "TextzoneExport.h"
 #include "host/VeskString.h"
 #include "platform/Types.h"
 #include "textzone/LineFlags.h"
@@ -17,7 +18,7 @@ constexpr DWORD BF_OPEN_HEAD = 1;    // first line of an open block
 constexpr DWORD BF_CLOSED_HEAD = 2;  // first line of a closed block
 constexpr DWORD BF_HIDDEN = 4;       // inside a closed block
 
-class CStringEx : public VESK::String {
+class TEXTZONE_EXPORT CStringEx : public VESK::String {
 public:
     CStringEx() = default;
     CStringEx(const char* psz);

@@ -13,6 +13,7 @@
 #include <memory>
 #include <string>
 
+#include "TextzoneExport.h"
 #include "host/GraphicText.h"
 #include "host/VeskString.h"
 #include "platform/Types.h"
@@ -83,7 +84,7 @@ constexpr WORD TF_STRIP_TRAILING = 8;  // strip blanks at the end of ended lines
 constexpr WORD TF_LEADING_TABS = 16;   // leading blanks become tabs
 constexpr WORD TF_NO_FINAL_END = 32;   // no line end behind the last line
 
-class CTextZone {
+class TEXTZONE_EXPORT CTextZone {
 public:
     CTextZone();
     virtual ~CTextZone();

@@ -5,10 +5,11 @@
 #include <memory>
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "platform/Types.h"
 #include "textzone/UndoUnit.h"
 
-class CUndoOperation {
+class TEXTZONE_EXPORT CUndoOperation {
 public:
     bool IsGroup() const { return (m_wType & 0x8000) != 0; }
 

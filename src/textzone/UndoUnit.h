@@ -5,9 +5,10 @@
 #include <string>
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "platform/Types.h"
 
-class CUndoUnit {
+class TEXTZONE_EXPORT CUndoUnit {
 public:
     WORD m_wType = 0;      // the unit kind, 1 to 7
     std::string m_hText;   // kinds 1, 6, 7: the text, owned

@@ -8,10 +8,11 @@
 #include <cstdint>
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "colour/StringExColor.h"
 #include "host/VeskString.h"
 
-class CStringExReadOnly : public CStringExColor {
+class TEXTZONE_EXPORT CStringExReadOnly : public CStringExColor {
 public:
     CStringExReadOnly() = default;
     explicit CStringExReadOnly(const char* psz) : CStringExColor(psz) {}

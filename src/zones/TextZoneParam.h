@@ -15,6 +15,7 @@
 #include <memory>
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "colour/KeywordIndex.h"
 #include "colour/TextZoneColor.h"
 #include "zones/ShortcutEntry.h"
@@ -28,7 +29,7 @@ constexpr unsigned int KM_CAPITAL = 3;  // first letter upper, after any leading
 // The shortcut file, in the settings store's data directory.
 inline constexpr const char* kShortcutFileName = "ed_short.txt";
 
-class CTextZoneParam : public CTextZoneColor {
+class TEXTZONE_EXPORT CTextZoneParam : public CTextZoneColor {
 public:
     CTextZoneParam();
     ~CTextZoneParam() override;

@@ -15,6 +15,7 @@
 #include <list>
 #include <memory>
 
+#include "TextzoneExport.h"
 #include "colour/TextZoneColor.h"
 #include "zones/StringExReadOnly.h"
 
@@ -32,7 +33,7 @@ using LinkIdList = std::list<std::int64_t>;
 using LinkDataList = std::list<unsigned long>;
 using LinkKindList = std::list<unsigned int>;
 
-class CTextZoneReadOnly : public CTextZoneColor {
+class TEXTZONE_EXPORT CTextZoneReadOnly : public CTextZoneColor {
 public:
     CTextZoneReadOnly();
     ~CTextZoneReadOnly() override;

@@ -8,6 +8,7 @@
 
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "host/VeskString.h"
 #include "platform/Font.h"
 #include "platform/Platform.h"
@@ -15,7 +16,7 @@
 
 class CTextZoneReadOnly;
 
-class CTooltipBubble : public CWnd {
+class TEXTZONE_EXPORT CTooltipBubble : public CWnd {
 public:
     CTooltipBubble(char const* pText, CWnd* pParent, CTextZoneReadOnly* pZone);
     ~CTooltipBubble() override;

@@ -8,13 +8,14 @@
 #include <functional>
 #include <memory>
 
+#include "TextzoneQtExport.h"
 #include "editor/Editor.h"
 #include "platform/Font.h"
 #include "platform/Messages.h"
 
 class CTextZone;
 
-class CQtEditorWidget : public QWidget {
+class TEXTZONE_QT_EXPORT CQtEditorWidget : public QWidget {
 public:
     // The control's window style; WS_CHILD and WS_VISIBLE are added. With a
     // zone the control borrows it.

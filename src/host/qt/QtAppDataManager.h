@@ -14,10 +14,11 @@
 #include <QVariant>
 #include <string>
 
+#include "TextzoneQtExport.h"
 #include "host/AppDataManager.h"
 #include "host/UserDataDirectory.h"
 
-class CQtAppDataManager : public IAppDataManager, public IAppSettings {
+class TEXTZONE_QT_EXPORT CQtAppDataManager : public IAppDataManager, public IAppSettings {
 public:
     // The file from the environment now.
     CQtAppDataManager();

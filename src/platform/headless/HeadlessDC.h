@@ -4,10 +4,11 @@
 
 #include <utility>
 
+#include "TextzoneExport.h"
 #include "platform/DC.h"
 #include "platform/headless/DrawRecord.h"
 
-class CHeadlessDC : public CDC {
+class TEXTZONE_EXPORT CHeadlessDC : public CDC {
 public:
     // pList null: the context keeps its own list. bCanScroll: a window's
     // context, whose pixels ScrollDC may move.

@@ -13,11 +13,12 @@
 #include <string>
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "platform/Platform.h"
 #include "platform/headless/HeadlessPrinter.h"
 #include "platform/headless/HeadlessWindowPeer.h"
 
-class CHeadlessPlatform : public IPlatform {
+class TEXTZONE_EXPORT CHeadlessPlatform : public IPlatform {
 public:
     // System colours and metrics that tests may rely on.
     static constexpr int kScreenWidth = 1280;

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "TextzoneExport.h"
 #include "platform/headless/HeadlessDC.h"
 
 struct HeadlessPrintJob {
@@ -19,7 +20,7 @@ struct HeadlessPrintJob {
     bool bAborted = false;
 };
 
-class CHeadlessPrinterDC : public CHeadlessDC {
+class TEXTZONE_EXPORT CHeadlessPrinterDC : public CHeadlessDC {
 public:
     struct Page {
         int cx = 600;

@@ -8,9 +8,10 @@
 #include <QWidget>
 #include <memory>
 
+#include "TextzoneQtExport.h"
 #include "platform/DialogControl.h"
 
-class CQtControlView : public IControlView {
+class TEXTZONE_QT_EXPORT CQtControlView : public IControlView {
 public:
     // Makes the widget as a child of pPage and attaches to the control.
     static std::unique_ptr<CQtControlView> Create(CDialogControl* pControl, QWidget* pPage);

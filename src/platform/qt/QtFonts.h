@@ -14,10 +14,11 @@
 #include <memory>
 #include <string>
 
+#include "TextzoneQtExport.h"
 #include "platform/FontMetrics.h"
 #include "platform/Types.h"
 
-class CQtFonts {
+class TEXTZONE_QT_EXPORT CQtFonts {
 public:
     static constexpr const char* kFixedFamily = "DejaVu Sans Mono";
     static constexpr const char* kSansFamily = "DejaVu Sans";

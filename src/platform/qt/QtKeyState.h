@@ -8,9 +8,10 @@
 #include <QKeyEvent>
 #include <set>
 
+#include "TextzoneQtExport.h"
 #include "platform/Types.h"
 
-class CQtKeyState {
+class TEXTZONE_QT_EXPORT CQtKeyState {
 public:
     // Key events reaching a window; a release clears the key.
     void OnKey(const QKeyEvent& event, bool bRelease);

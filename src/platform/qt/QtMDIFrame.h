@@ -13,6 +13,7 @@
 #include <map>
 #include <vector>
 
+#include "TextzoneQtExport.h"
 #include "platform/MDIFrameWnd.h"
 #include "platform/MenuModel.h"
 
@@ -22,7 +23,7 @@ class QMdiArea;
 class QMdiSubWindow;
 class QMenu;
 
-class CQtMDIFrame : public QMainWindow, public IMDIFrameObserver {
+class TEXTZONE_QT_EXPORT CQtMDIFrame : public QMainWindow, public IMDIFrameObserver {
 public:
     // Makes the frame's window; the frame outlives this window.
     explicit CQtMDIFrame(CMDIFrameWnd& frame, QWidget* pParent = nullptr);

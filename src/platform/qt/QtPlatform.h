@@ -11,6 +11,7 @@
 #include <memory>
 #include <vector>
 
+#include "TextzoneQtExport.h"
 #include "platform/Platform.h"
 #include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtDragDrop.h"
@@ -18,7 +19,7 @@
 #include "platform/qt/QtKeyState.h"
 #include "platform/qt/QtMessageQueue.h"
 
-class CQtPlatform : public QObject, public IPlatform {
+class TEXTZONE_QT_EXPORT CQtPlatform : public QObject, public IPlatform {
 public:
     CQtPlatform();
     ~CQtPlatform() override;

@@ -8,13 +8,14 @@
 #include <memory>
 #include <vector>
 
+#include "TextzoneQtExport.h"
 #include "platform/PropertySheet.h"
 #include "platform/qt/QtDialogControls.h"
 
 class QPushButton;
 class QTabWidget;
 
-class CQtPropertySheet : public QDialog, private ISheetView {
+class TEXTZONE_QT_EXPORT CQtPropertySheet : public QDialog, private ISheetView {
 public:
     explicit CQtPropertySheet(CPropertySheet& sheet, QWidget* pParent = nullptr);
     ~CQtPropertySheet() override;

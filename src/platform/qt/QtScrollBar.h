@@ -7,9 +7,10 @@
 #include <QScrollBar>
 #include <functional>
 
+#include "TextzoneQtExport.h"
 #include "platform/Types.h"
 
-class CQtScrollBar : public QScrollBar {
+class TEXTZONE_QT_EXPORT CQtScrollBar : public QScrollBar {
 public:
     using Handler = std::function<void(int nCode, int nPos)>;
     // The state is read through the getters; the owner reflects it first

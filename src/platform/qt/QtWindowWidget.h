@@ -11,13 +11,14 @@
 #include <QTimer>
 #include <QWidget>
 
+#include "TextzoneQtExport.h"
 #include "platform/Types.h"
 
 class CQtPlatform;
 class CQtScrollBar;
 class CWnd;
 
-class CQtWindowWidget : public QWidget {
+class TEXTZONE_QT_EXPORT CQtWindowWidget : public QWidget {
 public:
     static constexpr int kCaretBlinkMs = 530;
 

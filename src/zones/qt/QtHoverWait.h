@@ -5,11 +5,12 @@
 // delivered as usual. Moves within the line are kept until the wait ends.
 #pragma once
 
+#include "TextzoneQtExport.h"
 #include "platform/Types.h"
 
 class CTextZoneReadOnly;
 
-class CQtHoverWait {
+class TEXTZONE_QT_EXPORT CQtHoverWait {
 public:
     // Makes this the wait of every read-only zone in the process.
     static void Install();
