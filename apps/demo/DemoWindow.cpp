@@ -153,6 +153,8 @@ bool CDemoWindow::OpenFile(const QString& path) {
     CDemoDocument* pDoc = m_mainFrame.OpenFile(path.toLocal8Bit().toStdString());
     if (!pDoc) return false;
     if (CTextZoneParam* pZone = pDoc->GetZone()) ReportWord(FirstLongWord(*pZone));
+    // The panes show the file's line end and language at once, not at the next idle moment.
+    m_mainFrame.OnIdleUpdateCmdUI();
     UpdateTitle();
     return true;
 }
