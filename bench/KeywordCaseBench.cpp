@@ -15,6 +15,7 @@
 #include <string>
 
 #include "QtBenchWidgets.h"
+#include "QtBenchMain.h"
 #include "SqlText.h"
 #include "editor/qt/QtEditorWidget.h"
 #include "platform/qt/QtPlatform.h"
@@ -130,14 +131,5 @@ void Register() {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    Register();
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
-    int qtArgc = 1;
-    QApplication app(qtArgc, argv);
-    CQtPlatform platform;
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return bench::RunQtBenchmarks(argc, argv, Register);
 }

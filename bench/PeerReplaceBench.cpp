@@ -19,6 +19,7 @@
 #include <string>
 
 #include "QtBenchWidgets.h"
+#include "ReplaceText.h"
 #include "SqlText.h"
 
 namespace {
@@ -29,23 +30,8 @@ using bench::kWidth;
 using bench::Seconds;
 using bench::Settle;
 
-constexpr const char* kFrom = "WHERE";
-constexpr const char* kTo = "where";
-
-std::string Replaced(const std::string& text, int* pnCount) {
-    std::string out;
-    out.reserve(text.size());
-    const std::string from = kFrom;
-    size_t at = 0;
-    *pnCount = 0;
-    for (size_t next; (next = text.find(from, at)) != std::string::npos; at = next + from.size()) {
-        out.append(text, at, next - at);
-        out += kTo;
-        ++*pnCount;
-    }
-    out.append(text, at, std::string::npos);
-    return out;
-}
+using bench::kReplaceFrom;
+using bench::kReplaceTo;
 
 class Peer {
 public:
@@ -70,8 +56,8 @@ public:
         m_sci.SendScintilla(QsciScintillaBase::SCI_EMPTYUNDOBUFFER);
     }
     void ReplaceAll() override {
-        const long from = static_cast<long>(std::strlen(kFrom));
-        const long to = static_cast<long>(std::strlen(kTo));
+        const long from = static_cast<long>(std::strlen(kReplaceFrom));
+        const long to = static_cast<long>(std::strlen(kReplaceTo));
         auto send = [&](unsigned int message, unsigned long w = 0, long l = 0) {
             return m_sci.SendScintilla(message, w, l);
         };
@@ -83,10 +69,10 @@ public:
             send(QsciScintillaBase::SCI_SETTARGETEND,
                  static_cast<unsigned long>(send(QsciScintillaBase::SCI_GETLENGTH)));
             if (m_sci.SendScintilla(QsciScintillaBase::SCI_SEARCHINTARGET,
-                                    static_cast<unsigned long>(from), kFrom) < 0)
+                                    static_cast<unsigned long>(from), kReplaceFrom) < 0)
                 break;
             m_sci.SendScintilla(QsciScintillaBase::SCI_REPLACETARGET,
-                                static_cast<unsigned long>(to), kTo);
+                                static_cast<unsigned long>(to), kReplaceTo);
             start = send(QsciScintillaBase::SCI_GETTARGETEND);
         }
         send(QsciScintillaBase::SCI_ENDUNDOACTION);
@@ -119,8 +105,8 @@ public:
     }
     void ReplaceAll() override {
         QTextDocument* pDoc = m_edit.document();
-        const QString from = QString::fromLatin1(kFrom);
-        const QString to = QString::fromLatin1(kTo);
+        const QString from = QString::fromLatin1(kReplaceFrom);
+        const QString to = QString::fromLatin1(kReplaceTo);
         QTextCursor block(pDoc);
         block.beginEditBlock();
         QTextCursor found = pDoc->find(from, 0, QTextDocument::FindCaseSensitively);
@@ -142,7 +128,7 @@ void BM_ReplaceAll(benchmark::State& state, bool bUndo) {
     const int nLines = static_cast<int>(state.range(0));
     const std::string original = bench::MakeSqlText(nLines);
     int nMatches = 0;
-    const std::string expected = Replaced(original, &nMatches);
+    const std::string expected = bench::ReplacedText(original, &nMatches);
     P peer;
     peer.Load(original);
     Settle();

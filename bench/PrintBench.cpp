@@ -15,6 +15,7 @@
 #include <memory>
 
 #include "QtBenchWidgets.h"
+#include "QtBenchMain.h"
 #include "SqlText.h"
 #include "editor/EditorEx.h"
 #include "host/AppDataManager.h"
@@ -119,14 +120,5 @@ void Register() {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    Register();
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
-    int qtArgc = 1;
-    QApplication app(qtArgc, argv);
-    CQtPlatform platform;
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return bench::RunQtBenchmarks(argc, argv, Register);
 }

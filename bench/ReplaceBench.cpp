@@ -6,16 +6,15 @@
 #include <string>
 
 #include "EngineDoc.h"
+#include "ReplaceText.h"
 #include "editor/EditFindReplace.h"
 
 namespace {
 
 using namespace bench;
 
-// The bench text writes its keywords in capitals: three lines in eight hold
-// "WHERE" (375,000 matches at 1M lines), a replacement of another length.
-constexpr const char* kFrom = "WHERE";
-constexpr const char* kTo = "where";
+using bench::kReplaceFrom;
+using bench::kReplaceTo;
 
 // The editor side of the shared logic, over a bench zone.
 class CZoneTarget : public IFindReplaceTarget {
@@ -46,21 +45,6 @@ double ThreadSeconds() {
     return static_cast<double>(t.tv_sec) + static_cast<double>(t.tv_nsec) * 1e-9;
 }
 
-std::string Replaced(const std::string& text, int* pnCount) {
-    std::string out;
-    out.reserve(text.size());
-    const std::string from = kFrom;
-    size_t at = 0;
-    *pnCount = 0;
-    for (size_t next; (next = text.find(from, at)) != std::string::npos; at = next + from.size()) {
-        out.append(text, at, next - at);
-        out += kTo;
-        ++*pnCount;
-    }
-    out.append(text, at, std::string::npos);
-    return out;
-}
-
 std::string ZoneText(CTextZone& zone) {
     std::string text(static_cast<size_t>(zone.GetTextLength(TF_LF)) + 2, '\0');
     zone.GetText(text.data(), static_cast<LONG>(text.size()), TF_LF);
@@ -76,13 +60,13 @@ void BM_ReplaceAll(benchmark::State& state, bool bUndo) {
     CZoneTarget target(doc);
     const std::string original = ZoneText(doc.zone);
     int nMatches = 0;
-    const std::string expected = Replaced(original, &nMatches);
+    const std::string expected = bench::ReplacedText(original, &nMatches);
     double cpuTotal = 0;
     int runs = 0;
     for (auto _ : state) {
         doc.PlaceCaret(0, 0);
         double cpu = ThreadSeconds();
-        double replace = Seconds([&] { target.OnReplaceAll(kFrom, kTo, 1); });
+        double replace = Seconds([&] { target.OnReplaceAll(kReplaceFrom, kReplaceTo, 1); });
         const double replaceCpu = ThreadSeconds() - cpu;
         if (ZoneText(doc.zone) != expected) {
             state.SkipWithError("replace all left the wrong text");

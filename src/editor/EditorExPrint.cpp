@@ -12,10 +12,7 @@ void CEditorEx::OnFilePrint(BOOL bDirect) {
 }
 
 BOOL CEditorEx::PrintTo(CPrintInfo& info) {
-    CWnd* pMain = this;
-    while (pMain->GetParent())
-        pMain = pMain->GetParent();
-    return CPrintJob::Run(*this, info, pMain);
+    return CPrintJob::RunFor(*this, info, this);
 }
 
 void CEditorEx::OnUpdateFilePrint(CCmdUI* pCmdUI) {

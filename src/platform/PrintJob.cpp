@@ -43,6 +43,13 @@ BOOL CPrintJob::DoPreparePrinting(CWnd* pParent, CPrintInfo* pInfo) {
     return TRUE;
 }
 
+BOOL CPrintJob::RunFor(IPrintClient& client, CPrintInfo& info, CWnd* pWnd) {
+    CWnd* pMain = pWnd;
+    while (pMain && pMain->GetParent())
+        pMain = pMain->GetParent();
+    return Run(client, info, pMain);
+}
+
 CDC* CPrintJob::PrinterDC(CPrintInfo& info) {
     auto it = PrinterDCs().find(&info);
     return it == PrinterDCs().end() ? nullptr : it->second.get();

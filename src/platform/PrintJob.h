@@ -36,6 +36,9 @@ public:
     // or failed on the way. The main window is disabled meanwhile.
     static BOOL Run(IPrintClient& client, CPrintInfo& info, CWnd* pMainWnd,
                     const char* pszDocName = "Text Editor");
+    // Run for a window: its top-level window is the main window disabled
+    // meanwhile.
+    static BOOL RunFor(IPrintClient& client, CPrintInfo& info, CWnd* pWnd);
     // The printer context DoPreparePrinting made for the job.
     static CDC* PrinterDC(CPrintInfo& info);
 

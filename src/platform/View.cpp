@@ -43,10 +43,7 @@ void CView::OnFilePrint(BOOL bDirect) {
 }
 
 BOOL CView::Print(CPrintInfo& info) {
-    CWnd* pMain = this;
-    while (pMain->GetParent())
-        pMain = pMain->GetParent();
-    return CPrintJob::Run(*this, info, pMain);
+    return CPrintJob::RunFor(*this, info, this);
 }
 
 BOOL CView::OnCmdMsg(UINT nID, int nCode, CCmdUI* pCmdUI) {
