@@ -150,10 +150,8 @@ TEST_F(ClipboardTest, PasteBeyondTheMaximumLengthBeeps) {
 }
 
 TEST_F(ClipboardTest, ACopyOfManyLinesTakesEveryLineEndWhole) {
-    std::string text, expected;
-    for (int i = 0; i < 20; ++i) text += "line " + std::to_string(i) + "\r";
-    ASSERT_TRUE(m_zone.SetText(text.c_str()));
-    for (int i = 0; i < 20; ++i) expected += "line " + std::to_string(i) + "\r\n";
+    const std::string expected = Numbered(20);
+    ASSERT_TRUE(m_zone.SetText(Numbered(20, "line ", "\r").c_str()));
     EXPECT_EQ(CopyOf(0, 20, 0, 0, 0), expected);  // line mode: the last line end too
     EXPECT_EQ(CopyOf(0, 19, 0, 7, 0), expected.substr(0, expected.size() - 2));
 }

@@ -180,11 +180,7 @@ TEST_F(InsertDeleteTest, LineModeNeitherInsertsNorDeletes) {
 
 TEST_F(InsertDeleteTest, TheLineLimitStopsTheInsertion) {
     CCrowdedZone zone;
-    zone.SetWindow(&m_wnd);
-    RECT client;
-    m_wnd.GetClientRect(&client);
-    zone.SetRect(&client);
-    zone.SetFont(m_font);
+    Attach(zone);
     auto line = [&](int n) {
         return std::string(zone.GetLine(n) ? zone.GetLine(n)->c_str() : "-");
     };

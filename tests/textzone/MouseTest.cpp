@@ -27,13 +27,8 @@ class MouseTest : public HeadlessTest {
 protected:
     void SetUp() override {
         HeadlessTest::SetUp();
-        LOGFONTA lf = CHeadlessFonts::MakeFont(CHeadlessFonts::kFixedFace, 16);
-        m_font.CreateFontIndirect(&lf);
-        m_zone.SetWindow(&m_wnd);
-        RECT client;
-        m_wnd.GetClientRect(&client);
-        m_zone.SetRect(&client);
-        m_zone.SetFont(m_font);
+        CreateFixedFont(m_font);
+        AttachZone(m_zone, m_wnd, m_font);
         m_platform.SetTickCount(1000);
     }
     void TearDown() override {
@@ -74,10 +69,7 @@ protected:
                std::to_string(m_zone.m_nSelEndLine) + "," + std::to_string(m_zone.m_nSelEndChar);
     }
     void LoadNumberedLines(int nLines) {
-        std::string text;
-        for (int i = 0; i < nLines; ++i)
-            text += "line " + std::to_string(i) + "\r\n";
-        ASSERT_TRUE(m_zone.SetText(text.c_str()));
+        ASSERT_TRUE(m_zone.SetText(Numbered(nLines).c_str()));
         m_zone.SetSelection(0, 0, 0, 0, 0, 1);  // loading left the view at the end
         m_zone.m_scrolls.clear();
     }
