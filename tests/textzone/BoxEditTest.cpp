@@ -105,9 +105,7 @@ TEST_F(BoxEditTest, InsertedBoxReadsBackAndDeletesToTheSameText) {
     EXPECT_EQ(Text(), "SELECT x1a,\r\n       x2bb,\r\n       x3ccc\r\nFROM t\r\n");
     // Kept selected: the box reads back as the text that went in.
     ExpectSelection(0, 7, 2, 9);
-    char buffer[64];
-    m_zone.GetSelectedText(buffer, sizeof buffer, TF_CRLF);
-    EXPECT_STREQ(buffer, "x1\r\nx2\r\nx3\r\n");
+    EXPECT_EQ(m_zone.GetSelectedTextString(TF_CRLF), "x1\r\nx2\r\nx3\r\n");
     m_zone.DeleteSelection(1);
     EXPECT_EQ(Text(), original);
 }

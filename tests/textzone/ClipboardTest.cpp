@@ -107,9 +107,7 @@ TEST_F(ClipboardTest, PasteOnABoxCaretGoesOnEveryLineUnlessItIsABoxItself) {
     EXPECT_EQ(m_zone.Paste(), 1);
     // The short line is padded; the caret stays a box caret behind what went in.
     EXPECT_EQ(Text(), "abcXYd\r\nab XY    \r\nabcXYd\r\nabcd\r\n");
-    EXPECT_EQ(m_zone.m_nSelEndLine, 2);
-    EXPECT_EQ(m_zone.m_nSelStartChar, 5);
-    EXPECT_EQ(m_zone.m_nSelEndChar, 5);
+    ExpectSelection(0, 5, 2, 5);
     EXPECT_EQ(m_zone.GetUndoType(), 1);
     m_zone.Undo();
 

@@ -285,7 +285,15 @@ TEST_F(KeyEditTest, BackspaceAndDeleteWithinAndAtTheEdgesOfTheText) {
     Caret(0, 0);
     Press(VK_DELETE);
     Press(VK_BACK);  // at the start of the text
+    Caret(0, 1);
+    Press(VK_DELETE);  // at the end of an unended last line
     EXPECT_EQ(CrText(), "c");
+    // Neither took anything, so neither gives anything back.
+    while (m_zone.GetUndoType() != 0)
+        m_zone.Undo();
+    EXPECT_EQ(CrText(), "abc");
+    m_zone.SetText("c");
+    Caret(0, 0);
     Press(VK_DELETE);
     EXPECT_EQ(m_zone.GetLineCount(), 0);  // an empty text has no line
 

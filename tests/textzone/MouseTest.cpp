@@ -57,10 +57,9 @@ protected:
     }
 
     std::string Text(bool bSelected = false) {
-        LONG n = (bSelected ? m_zone.GetSelectedTextLength(TF_CRLF) : m_zone.GetTextLength(TF_CRLF)) + 8;
-        std::vector<char> buffer(static_cast<size_t>(n), 0);
-        if (bSelected) m_zone.GetSelectedText(buffer.data(), n, TF_CRLF);
-        else m_zone.GetText(buffer.data(), n, TF_CRLF);
+        if (bSelected) return m_zone.GetSelectedTextString(TF_CRLF);
+        std::vector<char> buffer(static_cast<size_t>(m_zone.GetTextLength(TF_CRLF)) + 8, 0);
+        m_zone.GetText(buffer.data(), static_cast<LONG>(buffer.size()), TF_CRLF);
         return buffer.data();
     }
     // "startLine,startChar-endLine,endChar"

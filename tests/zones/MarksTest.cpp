@@ -21,27 +21,28 @@ std::string Ranges(const std::vector<std::uint32_t>& ranges) {
 
 TEST(StringExReadOnlyTest, HighlightsMergeInOrder) {
     CStringExReadOnly line("    indented text that is long enough\r");
-    line.AddHilight(8, 10);
-    line.AddHilight(2, 4);
-    EXPECT_EQ(Ranges(line.m_hilights), "2-4 8-10");
-    line.AddHilight(3, 9);  // bridges both
-    EXPECT_EQ(Ranges(line.m_hilights), "2-10");
-    line.AddHilight(5, 6);  // inside
-    EXPECT_EQ(Ranges(line.m_hilights), "2-10");
-    line.AddHilight(12, 14);
-    line.AddHilight(16, 18);
-    line.AddHilight(20, 22);
-    line.AddHilight(11, 17);  // swallows 12-14, merges 16-18, stops before 20
-    EXPECT_EQ(Ranges(line.m_hilights), "2-10 11-18 20-22");
-    line.AddHilight(1, 30);
-    EXPECT_EQ(Ranges(line.m_hilights), "1-30");
-    line.AddHilight(0, 3);  // starts behind the indentation: within 1-30
-    EXPECT_EQ(Ranges(line.m_hilights), "1-30");
-    line.AddHilight(40, 40);
-    line.AddHilight(45, 41);
-    EXPECT_EQ(Ranges(line.m_hilights), "1-30");
-    line.AddHilight(35, 65535);
-    EXPECT_EQ(Ranges(line.m_hilights), "1-30 35-65535");
+    const struct {
+        int nStart, nEnd;
+        const char* ranges;
+    } steps[] = {
+        {8, 10, "8-10"},
+        {2, 4, "2-4 8-10"},
+        {3, 9, "2-10"},  // bridges both
+        {5, 6, "2-10"},  // inside
+        {12, 14, "2-10 12-14"},
+        {16, 18, "2-10 12-14 16-18"},
+        {20, 22, "2-10 12-14 16-18 20-22"},
+        {11, 17, "2-10 11-18 20-22"},  // swallows 12-14, merges 16-18, stops before 20
+        {1, 30, "1-30"},
+        {0, 3, "1-30"},  // starts behind the indentation: within 1-30
+        {40, 40, "1-30"},
+        {45, 41, "1-30"},
+        {35, 65535, "1-30 35-65535"},
+    };
+    for (const auto& st : steps) {
+        line.AddHilight(st.nStart, st.nEnd);
+        EXPECT_EQ(Ranges(line.m_hilights), st.ranges) << st.nStart << "-" << st.nEnd;
+    }
 
     CStringExReadOnly blanks("          ");
     blanks.AddHilight(0, 10);  // all indentation
