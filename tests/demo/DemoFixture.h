@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QImage>
 #include <QTemporaryDir>
 #include <deque>
 #include <string>
@@ -80,6 +81,15 @@ protected:
     CDemoView* View() { return m_window.ActiveView(); }
     CDemoDocument* Doc() { return m_window.ActiveDocument(); }
     QWidget* ViewWidget() { return CQtPlatform::WidgetOf(View()); }
+    // The pixels of the widget as shown that have the colour.
+    static int CountPixels(QWidget* pWidget, QRgb color) {
+        const QImage image = pWidget->grab().toImage();
+        int n = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                n += image.pixel(x, y) == color;
+        return n;
+    }
     // The active text with LF line ends and none after the last line.
     std::string Text() {
         CTextZoneParam& zone = *View()->GetTextZone();

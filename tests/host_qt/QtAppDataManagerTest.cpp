@@ -21,21 +21,12 @@ struct IntKey {
     int value;  // something else to store
 };
 
-// The editor's keys with their defaults.
+// Editor keys of each kind of value: sizes, negative tab sizes, flags,
+// colours up to 24 bits and -1 for the system's colour.
 const IntKey kIntKeys[] = {
-    {"FontSize", 14, 22},          {"FontBold", 0, 1},
-    {"FontItalic", 0, 1},          {"FontUnderline", 0, 1},
-    {"FontStrikeOut", 0, 1},       {"TabSize", 4, -8},
-    {"ConvertTabs", 0, 1},         {"WordCompletion", 1, 0},
-    {"KeywordMode", 0, 3},         {"DragDropEdit", 1, 0},
-    {"MarginMode", 0, 2},          {"BlockMode", 0, 1},
-    {"MarginBkgColor", 0xD0D0D0, 0x102030},
-    {"BookmarkColor", 0x800000, 0xFFFFFF},
-    {"FontNorFrgColor", -1, 0x000080},
-    {"FontNorBkgColor", -1, 0},
-    {"FontSelFrgColor", -1, 0xFFFFFF},
-    {"FontSelBkgColor", -1, 0x7F7F7F},
-    {"UseSyntaxColor", 1, 0},      {"EnableShortcuts", 1, 0},
+    {"FontSize", 14, 22},         {"TabSize", 4, -8},
+    {"WordCompletion", 1, 0},     {"MarginBkgColor", 0xD0D0D0, 0x102030},
+    {"FontNorFrgColor", -1, 0x000080}, {"FontSelBkgColor", 0, -1},
 };
 
 struct StringKey {
@@ -48,12 +39,6 @@ const StringKey kStringKeys[] = {
     {"FontName", "Courier New", "DejaVu Sans Mono"},
     {"Comment", "000,127,000", "0,128,0"},
     {"KeyWord1", "000,000,255", "12,34"},
-    {"KeyWord2", "000,127,127", "255,255,255"},
-    {"KeyWord3", "000,000,127", "1,2,3"},
-    {"KeyWord4", "127,000,000", "100,0,0"},
-    {"KeyWord5", "000,000,255", "000,000,254"},
-    {"KeyWord6", "000,000,255", "9,9,9"},
-    {"String", "255,000,255", "255,0,254"},
     {"Variable", "255,000,000", "254,000,000"},
 };
 

@@ -28,11 +28,6 @@ protected:
     static int Index(const CListBox& list, const char* psz) {
         return list.FindStringExact(-1, psz);
     }
-    static int IndexOfData(const CComboBox& combo, DWORD_PTR dwData) {
-        for (int i = 0; i < combo.GetCount(); ++i)
-            if (combo.GetItemData(i) == dwData) return i;
-        return -1;
-    }
 
     CPropertySheet m_sheet{"Options"};
 };

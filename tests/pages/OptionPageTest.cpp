@@ -22,11 +22,6 @@ protected:
     CButton& Button(int nID) { return *dynamic_cast<CButton*>(Page().GetDlgItem(nID)); }
     CEdit& Edit(int nID) { return *dynamic_cast<CEdit*>(Page().GetDlgItem(nID)); }
     CEditorOptionPage& Page() { return *static_cast<CEditorOptionPage*>(m_sheet.GetPage(0)); }
-    int IndexOfData(CComboBox& combo, DWORD_PTR dwData) {
-        for (int i = 0; i < combo.GetCount(); ++i)
-            if (combo.GetItemData(i) == dwData) return i;
-        return -1;
-    }
 
     CPropertySheet m_sheet{"Options"};
 };

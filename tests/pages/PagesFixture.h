@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "host/MemoryAppDataManager.h"
+#include "platform/ComboBox.h"
 #include "platform/Messages.h"
 #include "platform/Platform.h"
 #include "platform/PropertySheet.h"
@@ -30,6 +31,12 @@ protected:
         std::error_code ec;
         std::filesystem::remove_all(m_dir, ec);
         HeadlessTest::TearDown();
+    }
+    // The row of a combo that holds the data, -1 for none.
+    static int IndexOfData(const CComboBox& combo, DWORD_PTR dwData) {
+        for (int i = 0; i < combo.GetCount(); ++i)
+            if (combo.GetItemData(i) == dwData) return i;
+        return -1;
     }
     int ReloadsHeard() const { return m_wnd.Count(RegisterWindowMessageA("EditExLoadIniMessage")); }
     // The writes since the last call, as "section/key=value".
