@@ -2,7 +2,6 @@
 
 #include <cstdio>
 
-
 namespace {
 
 const char* const kNames[9] = {"Comment",  "KeyWord1", "KeyWord2", "KeyWord3", "KeyWord4",

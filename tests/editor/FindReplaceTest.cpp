@@ -20,7 +20,9 @@ protected:
         pView->GetTextZone()->SetText(pszText);
         pView->GetTextZone()->SetSelection(0, 0, 0, 0, 0, 1);
     }
-    static CEditFindReplaceDialog* Dialog() { return CEditFindReplace::Instance().m_pFindReplaceDlg; }
+    static CEditFindReplaceDialog* Dialog() {
+        return CEditFindReplace::Instance().m_pFindReplaceDlg;
+    }
 };
 
 TEST_F(FindReplaceTest, OpeningTakesTheSelectionAndKeepsOneDialogOfOneKind) {
@@ -137,7 +139,7 @@ TEST_F(FindReplaceTest, AnActionHeardByAnotherWindowGoesToTheOwner) {
     record.lpstrFindWhat = "me";
     // B hears it: it is posted on to A, and only A searches.
     m_pViewB->SendMessage(RegisterWindowMessageA("commdlg_FindReplace"), 0,
-                      reinterpret_cast<LPARAM>(&record));
+                          reinterpret_cast<LPARAM>(&record));
     EXPECT_EQ(Selected(m_pViewA), "");
     m_platform.PumpMessages();
     EXPECT_EQ(Selected(m_pViewA), "me");

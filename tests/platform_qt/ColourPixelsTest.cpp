@@ -26,7 +26,6 @@ std::pair<int, int> Extent(const QImage& image, int top, int bottom, COLORREF cr
     return {left, right};
 }
 
-
 }  // namespace
 
 TEST(ColourPixelsTest, KeywordsAndCommentsShowInTheirColoursAndFollowTyping) {

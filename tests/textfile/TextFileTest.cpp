@@ -7,9 +7,9 @@
 #include <string>
 
 #include "apps/demo/TextFile.h"
-#include "zones/TextZoneParam.h"
 #include "support/ZoneTest.h"
 #include "support/ZoneWindow.h"
+#include "zones/TextZoneParam.h"
 
 namespace {
 
