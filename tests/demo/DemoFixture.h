@@ -17,6 +17,7 @@
 #include "apps/demo/DemoWindow.h"
 #include "host/MemoryAppDataManager.h"
 #include "platform/qt/QtPlatform.h"
+#include "support/ZoneText.h"
 #include "zones/TextZoneParam.h"
 
 // Answers given in advance; what the demo said is kept.
@@ -91,13 +92,7 @@ protected:
         return n;
     }
     // The active text with LF line ends and none after the last line.
-    std::string Text() {
-        CTextZoneParam& zone = *View()->GetTextZone();
-        std::string text(static_cast<size_t>(zone.GetTextLength(1 | 32)) + 2, '\0');
-        zone.GetText(text.data(), static_cast<LONG>(text.size()), 1 | 32);
-        text.resize(std::char_traits<char>::length(text.c_str()));
-        return text;
-    }
+    std::string Text() { return ZoneText(*View()->GetTextZone(), 1 | 32); }
 
     CQtPlatform m_platform;
     CMemoryAppDataManager m_store;

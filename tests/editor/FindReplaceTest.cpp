@@ -9,11 +9,7 @@ namespace {
 class FindReplaceTest : public ViewsTest {
 protected:
     static std::string Selected(CEditorViewEx* pView) {
-        CTextZoneParam& zone = *pView->GetTextZone();
-        std::string text(static_cast<size_t>(zone.GetSelectedTextLength(1)) + 2, '\0');
-        zone.GetSelectedText(text.data(), static_cast<LONG>(text.size()), 1);
-        text.resize(std::char_traits<char>::length(text.c_str()));
-        return text;
+        return ZoneSelectedText(*pView->GetTextZone(), 1);
     }
     // A new text with the caret at its start, where a search begins.
     static void SetText(CEditorViewEx* pView, const char* pszText) {

@@ -14,6 +14,7 @@
 #include "platform/Platform.h"
 #include "platform/headless/HeadlessPlatform.h"
 #include "support/HeadlessTest.h"
+#include "support/ZoneText.h"
 #include "zones/TextZoneParam.h"
 
 // A document that counts the questions before it is let go.
@@ -67,11 +68,7 @@ protected:
     }
     // The text with LF line ends and none added at its end.
     static std::string Text(CEditorViewEx* pView) {
-        CTextZoneParam& zone = *pView->GetTextZone();
-        std::string text(static_cast<size_t>(zone.GetTextLength(1 | 32)) + 2, '\0');
-        zone.GetText(text.data(), static_cast<LONG>(text.size()), 1 | 32);
-        text.resize(std::char_traits<char>::length(text.c_str()));
-        return text;
+        return ZoneText(*pView->GetTextZone(), 1 | 32);
     }
 
     CHeadlessPlatform m_platform;
