@@ -191,6 +191,14 @@ struct SavedClosing {
     int nCount;
 };
 
+void Prefetch(const void* p) {
+#if defined(__GNUC__)
+    __builtin_prefetch(p, 1);
+#else
+    (void)p;
+#endif
+}
+
 }  // namespace
 
 bool CTextZone::CloseSavedBlocks(std::vector<int>& heads,
@@ -252,7 +260,20 @@ bool CTextZone::CloseSavedBlocks(std::vector<int>& heads,
     long long nHideLine = -1;
     long long nHiddenTo = 0;  // the lines before it are done
     std::size_t nDone = 0;    // the closings whose head is there
-    for (const SavedClosing& c : all) {
+    for (std::size_t k = 0; k < all.size(); ++k) {
+        const SavedClosing& c = all[k];
+        // The lines lie apart on the heap, each a cache miss: those of the
+        // block a few entries ahead are asked for now, when they lie in the
+        // store block of the head at hand, so that the misses overlap.
+        constexpr std::size_t kAhead = 4;
+        if (nHeadLine >= 0 && k + kAhead < all.size()) {
+            const SavedClosing& ahead = all[k + kAhead];
+            const long long nAt = hi + static_cast<long long>(ahead.nHead - nHeadLine);
+            const long long nTo = std::min<long long>(
+                nAt + std::min<long long>(ahead.nEnd - ahead.nHead, 8), m_pBlockSizes[hb]);
+            for (long long i = nAt; i < nTo; ++i)
+                Prefetch(&m_ppBlocks[hb][i]->m_dwBlockFlags);
+        }
         const bool bHead = nHeadLine < 0 ? GetLineIndexes(c.nHead, &hb, &hi) != 0
                                          : AdvanceSlot(&hb, &hi, c.nHead - nHeadLine);
         if (!bHead) break;
