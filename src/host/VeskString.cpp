@@ -66,18 +66,26 @@ String String::subString(int nFrom) const {
     return s;
 }
 
+void String::Fit() {
+    // A quarter keeps repeated small cuts from copying the text each time.
+    if (m_str.capacity() > 256 && m_str.size() < m_str.capacity() / 4) m_str.shrink_to_fit();
+}
+
 String& String::keepLeft(int n) {
     m_str.resize(static_cast<size_t>(Clamp(n)));
+    Fit();
     return *this;
 }
 
 String& String::discardLeft(int n) {
     m_str.erase(0, static_cast<size_t>(Clamp(n)));
+    Fit();
     return *this;
 }
 
 String& String::discardRight(int n) {
     m_str.resize(static_cast<size_t>(GetLength() - Clamp(n)));
+    Fit();
     return *this;
 }
 
@@ -85,6 +93,7 @@ String& String::deleteAt(int nPos, int nCount) {
     int nFrom = Clamp(nPos);
     int nTake = std::clamp(nCount, 0, GetLength() - nFrom);
     if (nTake > 0) m_str.erase(static_cast<size_t>(nFrom), static_cast<size_t>(nTake));
+    Fit();
     return *this;
 }
 

@@ -71,6 +71,9 @@ public:
 
 private:
     int Clamp(int n) const;  // n limited to [0, length]
+    // Gives back the buffer of a string cut to a small part of it: a long
+    // line cut into many short ones must not leave each its whole buffer.
+    void Fit();
 
     std::string m_str;
 };
