@@ -15,7 +15,6 @@
 #include <string>
 #include <vector>
 
-#include "platform/headless/HeadlessFonts.h"
 #include "support/ZoneTest.h"
 
 namespace {
