@@ -93,11 +93,7 @@ protected:
     void SetUp() override {
         ZoneTest::SetUp();
         ASSERT_TRUE(m_twinWnd.Create(WS_VISIBLE, RECT{10, 20, 410, 320}, nullptr, 1));
-        m_twin.SetWindow(&m_twinWnd);
-        RECT client;
-        m_twinWnd.GetClientRect(&client);
-        m_twin.SetRect(&client);
-        m_twin.SetFont(m_font);
+        AttachZone(m_twin, m_twinWnd, m_font);
     }
     void TearDown() override {
         m_twin.HideCaret();
