@@ -349,10 +349,9 @@ void CTextZone::KeyTab(int bShift) {
         // Whole lines are shifted; columns need every byte equally wide.
         if (m_nSelectionMode != TZ_SEL_BOX && T != 0 && !IsFontProportionnal()) {
             m_nSelStartChar = 0;
-            if (m_nSelEndChar != 0) {
-                ++m_nSelEndLine;
-                m_nSelEndChar = 0;
-            }
+            // An end on the place behind the text holds no line to take in.
+            if (m_nSelEndChar != 0 && GetLine(m_nSelEndLine)) ++m_nSelEndLine;
+            m_nSelEndChar = 0;
             const int startLine = m_nSelStartLine;
             const int endLine = m_nSelEndLine;
             const int lines = endLine - startLine;

@@ -30,6 +30,14 @@ void CaretToFirstPlace(CTextZone& zone, const CUndoUnit& unit) {
     zone.m_nSelStartChar = zone.m_nSelEndChar = unit.m_nFirstChar;
 }
 
+// No end of the selection stays past the place behind the text.
+void KeepEndsInText(CTextZone& zone) {
+    const int last = zone.GetLastLineIndex();
+    const int after = zone.GetLine(last) ? last + 1 : last;
+    if (zone.m_nSelEndLine > after) zone.m_nSelEndLine = after, zone.m_nSelEndChar = 0;
+    if (zone.m_nSelStartLine > after) zone.m_nSelStartLine = after, zone.m_nSelStartChar = 0;
+}
+
 void SelectPlace(CTextZone& zone, const CUndoUnit& unit) {
     if (ParagraphForm(zone)) {
         zone.SetSelection(unit.m_nFirstLine, unit.m_nFirstChar, 0, 0, 1, 0);
@@ -39,12 +47,8 @@ void SelectPlace(CTextZone& zone, const CUndoUnit& unit) {
     zone.m_nSelStartChar = unit.m_nFirstChar;
     zone.m_nSelEndLine = unit.m_nLastLine;
     zone.m_nSelEndChar = unit.m_nLastChar;
-    // An empty unended last line may have come and gone in between: no end
-    // stays past the place behind the text.
-    const int last = zone.GetLastLineIndex();
-    const int after = zone.GetLine(last) ? last + 1 : last;
-    if (zone.m_nSelEndLine > after) zone.m_nSelEndLine = after, zone.m_nSelEndChar = 0;
-    if (zone.m_nSelStartLine > after) zone.m_nSelStartLine = after, zone.m_nSelStartChar = 0;
+    // An empty unended last line may have come and gone in between.
+    KeepEndsInText(zone);
 }
 
 // Before a restore of lines: the copy for the other list takes in every line
@@ -118,6 +122,9 @@ void HandOutJoinInfo(CTextZone& zone, const CUndoUnit& unit) {
 }
 
 void AfterBoxRestore(CTextZone& zone, const CUndoUnit& unit, int oldFirst, int oldLast) {
+    // An indented block stays selected down to the line after it, which
+    // the restore may have taken away behind the text.
+    KeepEndsInText(zone);
     zone.m_nSelRootLine = zone.m_nSelStartLine;
     zone.m_nSelRootChar = zone.m_nSelStartChar;
     // The lines changed behind the editing primitives' back.

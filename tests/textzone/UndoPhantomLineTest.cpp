@@ -1,6 +1,7 @@
-// Typing or inserting on the place behind the text makes a line there; undo
-// takes that line away again, or a later undo that restores whole lines
-// leaves the line above unended inside the text.
+// The place behind the text (the line after the last one) holds no line:
+// typing or inserting there makes one, and undo takes it away again, or a
+// later undo that restores whole lines leaves the line above unended inside
+// the text; a block indent whose selection ends there takes in no line more.
 #include <string>
 
 #include "KeyZoneTest.h"
@@ -50,6 +51,25 @@ TEST_F(UndoPhantomLineTest, UndoLeavesNoLineWhereNoneWas) {
                 m_zone.Redo();
             EXPECT_EQ(Text(), after);
         }
+    }
+}
+
+TEST_F(UndoPhantomLineTest, ABlockIndentEndingBehindTheTextStaysInIt) {
+    m_zone.SetStyle(ZS_AUTOINDENT);
+    m_zone.SetTabWidth(-4);
+    for (int mods : {kNone, kShift}) {
+        SCOPED_TRACE(mods == kShift ? "unindent" : "indent");
+        m_zone.SetText("    ab\r\n    cd\r\n");
+        Caret(0, 6);
+        Press(VK_NEXT, kShift);
+        ASSERT_EQ(m_zone.m_nSelEndLine, 2);  // the place behind the text
+        Press(VK_TAB, mods);
+        EXPECT_EQ(Text(), mods == kShift ? "ab\r\ncd\r\n" : "        ab\r\n        cd\r\n");
+        EXPECT_EQ(m_zone.m_nSelEndLine, 2);
+        EXPECT_EQ(m_zone.m_nSelEndChar, 0);
+        m_zone.Undo();
+        EXPECT_EQ(Text(), "    ab\r\n    cd\r\n");
+        EXPECT_LE(m_zone.m_nSelEndLine, 2);
     }
 }
 
