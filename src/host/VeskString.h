@@ -21,7 +21,7 @@ namespace VESK {
 
 class TEXTZONE_EXPORT String {
 public:
-    String() = default;
+    String() noexcept {}  // user-provided, so that a const String can be default-made
     String(const char* psz);  // null is the empty string
     String(const char* p, int nCount);
     String(char c, int nCount);
