@@ -5,6 +5,9 @@
 #include <cstring>
 
 #include "host/Collator.h"
+#include "textzone/TextBytes.h"
+
+using textbytes::IsBlank;
 
 namespace {
 
@@ -13,11 +16,6 @@ constexpr char kTaken = 10;
 bool IsBoundaryChar(unsigned char c) {
     return c >= 128 || std::isalnum(c) || c == '#' || c == '@' || c == '_';
 }
-
-bool IsBlank(char c) {
-    return c == ' ' || c == '\t';
-}
-
 }  // namespace
 
 bool CKeywordIndex::BlocksBefore(unsigned char c, KeywordBounds bounds) {

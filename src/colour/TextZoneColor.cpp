@@ -125,7 +125,7 @@ void CTextZoneColor::GetSettings(CTextZoneColorSettings* pSettings) {
 
 void CTextZoneColor::SetSettings(CTextZoneColorSettings* pSettings) {
     if (!pSettings) {
-        SetSelectionMode(1);
+        SetSelectionMode(TZ_SEL_STREAM);
         CancelSelection(0);
     } else {
         SetSelectionMode(pSettings->m_wSelectionMode);

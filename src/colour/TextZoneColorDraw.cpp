@@ -79,7 +79,7 @@ void CTextZoneColor::DrawTextLine(CDC* pDC, int nLine) {
     const int y = frame.y;
     const int h = frame.h;
 
-    const bool bBox = m_nSelectionMode == 2;
+    const bool bBox = m_nSelectionMode == TZ_SEL_BOX;
     int A = -1;
     int B = -1;
     bool bStartSelected = false;
@@ -162,7 +162,7 @@ bool CTextZoneColor::LineSelectionBounds(int nLine, int* pA, int* pB, bool* pbSt
     if (!bInSelection) return false;
     int& A = *pA;
     int& B = *pB;
-    if (m_nSelectionMode == 2) {
+    if (m_nSelectionMode == TZ_SEL_BOX) {
         A = m_nSelStartChar;
         B = m_nSelEndChar;
         if (m_nSelStartChar == 0 && m_nSelEndChar > 0) {

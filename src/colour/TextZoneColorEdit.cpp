@@ -96,7 +96,7 @@ void CTextZoneColor::PerformUndoing(CUndoOperation* pOperation) {
     int nFirst = TZ_TO_END;
     if (pOperation && m_bSyntaxColor) {
         // With paragraphs in stream mode the units hold offsets, not lines.
-        const bool bOffsets = (m_dwStyle & ZS_PARAGRAPH) && m_nSelectionMode == 1;
+        const bool bOffsets = (m_dwStyle & ZS_PARAGRAPH) && m_nSelectionMode == TZ_SEL_STREAM;
         auto look = [&](const CUndoUnit* pUnit) {
             if (pUnit && (pUnit->m_wType == 6 || pUnit->m_wType == 7 ||
                        pUnit->m_wType == TZ_UNIT_LINE_IMAGES))

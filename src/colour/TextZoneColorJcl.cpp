@@ -4,14 +4,9 @@
 #include <cstring>
 
 #include "colour/TextZoneColor.h"
+#include "textzone/TextBytes.h"
 
-namespace {
-
-bool IsBlank(char c) {
-    return c == ' ' || c == '\t';
-}
-
-}  // namespace
+using textbytes::IsBlank;
 
 void CTextZoneColor::DefineJclColors(std::string& text, const char* const* const* ppTables) {
     const char* t = text.c_str();

@@ -7,14 +7,13 @@
 
 #include "colour/TextZoneColor.h"
 #include "keywords/KeywordTables.h"
+#include "textzone/TextBytes.h"
+
+using textbytes::IsBlank;
 
 namespace {
 
 constexpr char kTaken = 10;
-
-bool IsBlank(char c) {
-    return c == ' ' || c == '\t';
-}
 
 // Bytes of an "@" variable; 255 is not one.
 bool IsVariableChar(unsigned char c) {

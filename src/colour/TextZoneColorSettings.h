@@ -6,10 +6,11 @@
 
 #include "TextzoneExport.h"
 #include "platform/Types.h"
+#include "textzone/TextZone.h"
 
 class TEXTZONE_EXPORT CTextZoneColorSettings {
 public:
-    short m_wSelectionMode = 1;
+    short m_wSelectionMode = TZ_SEL_STREAM;
     LONG m_lSelStart = 0;
     LONG m_lSelEnd = 0;
     int m_nSelStartChar = 0;

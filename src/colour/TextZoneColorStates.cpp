@@ -5,12 +5,11 @@
 #include <cstring>
 
 #include "colour/TextZoneColor.h"
+#include "textzone/TextBytes.h"
+
+using textbytes::IsBlank;
 
 namespace {
-
-bool IsBlank(char c) {
-    return c == ' ' || c == '\t';
-}
 
 // Backslashes (or tildes) right before index nAt, not counting the byte at nStop.
 int CountBefore(const char* pText, int nAt, int nStop, char c) {

@@ -127,7 +127,7 @@ std::string CTextZoneColor::CandidateText(const char* pWord, int nMode) {
 
 void CTextZoneColor::InsertCandidate(const std::string& text) {
     const int nLine = m_nSelStartLine;
-    SetSelectionMode(1);
+    SetSelectionMode(TZ_SEL_STREAM);
     SetSelection(nLine, nLine, m_nWordStart, m_nWordStart + m_nWordLength, 0, 1);
     StartRegister(kUndoWordCompletion);
     InsertText(text.c_str(), 0, 1, 1);

@@ -97,7 +97,7 @@ int CEditorEx::OnCreate(CREATESTRUCT*) {
 void CEditorEx::OnMouseMove(UINT nFlags, CPoint) {
     // Alt pressed during a drag turns the selection into a box at once. A
     // proportional font has no columns, so the drag stays a stream.
-    if (m_pZone->GetSelectionMode() != 2 && GetKeyState(VK_MENU) < 0 && (nFlags & MK_LBUTTON) &&
+    if (m_pZone->GetSelectionMode() != TZ_SEL_BOX && GetKeyState(VK_MENU) < 0 && (nFlags & MK_LBUTTON) &&
         !m_pZone->IsFontProportionnal())
         OnEditBoxmode();
 }

@@ -77,7 +77,7 @@ bool CanDropText(COleDataObject* pDataObject, CTextZone* pZone, CPoint point) {
 }
 
 void SwitchSelectionMode(CWnd* pWnd, CTextZone* pZone, short wMode) {
-    short wFrom = wMode == 2 ? 1 : 2;
+    short wFrom = wMode == TZ_SEL_BOX ? TZ_SEL_STREAM : TZ_SEL_BOX;
     if (pZone->GetSelectionMode() != wFrom) return;
     LONG lFirst = 0, lLast = 0;
     pZone->GetSelection(&lFirst, &lLast, nullptr, nullptr, 0);
@@ -94,15 +94,15 @@ int InsertHostText(CWnd* pWnd, CTextZone* pZone, const char* pszText, int nFlag,
     pZone->CancelSelection(1);
     // Box mode would insert the lines as a column; the host's text goes in
     // as lines.
-    const bool bBox = pZone->GetSelectionMode() == 2;
-    if (bBox) pZone->SetSelectionMode(1);
+    const bool bBox = pZone->GetSelectionMode() == TZ_SEL_BOX;
+    if (bBox) pZone->SetSelectionMode(TZ_SEL_STREAM);
     if (nAtLine != -1) pZone->SetSelection(nAtLine, nAtLine, 0, 0, 0, 0);
     const int nResult = pZone->InsertText(pszText, nFlag, 1, 1);
     if (bRegister || bModified) {
         pZone->SetModify(1);
         if (bRegister) pZone->EndRegister();
     }
-    if (bBox) pZone->SetSelectionMode(2);
+    if (bBox) pZone->SetSelectionMode(TZ_SEL_BOX);
     pWnd->EndWaitCursor();
     return nResult;
 }

@@ -52,13 +52,13 @@ void CEditorViewEx::OnViewPrevbookmark() {
 }
 
 void CEditorViewEx::OnUpdateEditBoxmode(CCmdUI* pCmdUI) {
-    pCmdUI->SetCheck(m_pParamZone->GetSelectionMode() == 2);
+    pCmdUI->SetCheck(m_pParamZone->GetSelectionMode() == TZ_SEL_BOX);
     // A box needs columns of one width.
     pCmdUI->Enable(!m_pParamZone->IsFontProportionnal());
 }
 
 void CEditorViewEx::OnUpdateEditStreammode(CCmdUI* pCmdUI) {
-    pCmdUI->SetCheck(m_pParamZone->GetSelectionMode() == 1);
+    pCmdUI->SetCheck(m_pParamZone->GetSelectionMode() == TZ_SEL_STREAM);
 }
 
 void CEditorViewEx::OnUpdateLine(CCmdUI* pCmdUI) {

@@ -111,7 +111,7 @@ void CEditorView::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
     MarkDocumentIfModified();
     // Ctrl+F3 searches for the selected text.
     if (nChar == VK_F3 && GetKeyState(VK_CONTROL) < 0 && m_pZone->TestSelection() &&
-        m_pZone->GetSelectionMode() == 1)
+        m_pZone->GetSelectionMode() == TZ_SEL_STREAM)
         CEditFindReplace::Instance().FindSelection(*this);
 }
 

@@ -183,18 +183,40 @@ String String::subString(int nFrom) const {
     return String(Data() + from, GetLength() - from);
 }
 
+void String::Fit() {
+    // A quarter keeps repeated small cuts from copying the text each time.
+    if (m_nKind != kHeap || m_nCapacity <= 256 || m_nLength >= m_nCapacity / 4) return;
+    char* old = m_pBytes;
+    const std::uint32_t length = m_nLength;
+    if (length <= kInlineCapacity) {
+        m_nKind = kInline;
+        m_nCapacity = kInlineCapacity;
+        std::memcpy(m_inline, old, length);
+    } else {
+        char* fresh = new char[length + 1];
+        std::memcpy(fresh, old, length);
+        m_pBytes = fresh;
+        m_nCapacity = length;
+    }
+    delete[] old;
+    SetLength(length);
+}
+
 String& String::keepLeft(int n) {
     SetLength(static_cast<std::uint32_t>(Clamp(n)));
+    Fit();
     return *this;
 }
 
 String& String::discardLeft(int n) {
     Splice(0, static_cast<std::uint32_t>(Clamp(n)), nullptr, 0);
+    Fit();
     return *this;
 }
 
 String& String::discardRight(int n) {
     SetLength(static_cast<std::uint32_t>(GetLength() - Clamp(n)));
+    Fit();
     return *this;
 }
 
@@ -202,6 +224,7 @@ String& String::deleteAt(int nPos, int nCount) {
     const int from = Clamp(nPos);
     const int take = std::clamp(nCount, 0, GetLength() - from);
     if (take > 0) Splice(static_cast<std::uint32_t>(from), static_cast<std::uint32_t>(take), nullptr, 0);
+    Fit();
     return *this;
 }
 

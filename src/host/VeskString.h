@@ -93,6 +93,10 @@ private:
     const char* Data() const { return m_nKind == kInline ? m_inline : m_pBytes; }
     int Clamp(int n) const;  // n limited to [0, length]
     void SetLength(std::uint32_t n);  // within the capacity; writes the 0
+    // Gives back the buffer of a string cut to a small part of it: a long
+    // line cut into many short ones must not leave each its whole buffer.
+    // Lent bytes are not the string's to give back.
+    void Fit();
     // Replaces nRemove bytes at nPos (both valid) by nCount bytes from p,
     // which may lie inside this string.
     void Splice(std::uint32_t nPos, std::uint32_t nRemove, const char* p, std::uint32_t nCount);

@@ -42,7 +42,7 @@ void CTextZone::SetSelection(LONG lStart, LONG lEnd, int nStartChar, int nEndCha
     int after = GetLine(last) ? last + 1 : last;
 
     int startLine, endLine, startChar, endChar;
-    if (wMode == 1) {
+    if (wMode == TZ_SEL_STREAM) {
         m_nSelectionMode = TZ_SEL_STREAM;
         bool startFound = false;
         bool endFound = false;
@@ -88,13 +88,13 @@ void CTextZone::SetSelection(LONG lStart, LONG lEnd, int nStartChar, int nEndCha
         // not there go to the line's start.
         if (startLine < 0 || startLine > last) {
             startLine = after;
-            if (wMode != 2) startChar = 0;
+            if (wMode != TZ_SEL_BOX) startChar = 0;
         }
         if (endLine < 0 || endLine > last) {
             endLine = after;
-            if (wMode != 2) endChar = 0;
+            if (wMode != TZ_SEL_BOX) endChar = 0;
         }
-        if (wMode == 2) {
+        if (wMode == TZ_SEL_BOX) {
             // Where box mode is refused (wrap, a proportional font) the same
             // places make a stream selection of byte indexes instead.
             const bool boxAllowed = !(m_dwStyle & ZS_PARAGRAPH) && !IsFontProportionnal();
@@ -124,7 +124,7 @@ void CTextZone::SetSelection(LONG lStart, LONG lEnd, int nStartChar, int nEndCha
 
 short CTextZone::GetSelection(LONG* plStart, LONG* plEnd, int* pnStartChar, int* pnEndChar,
                               short wMode) {
-    if (wMode == 1) {
+    if (wMode == TZ_SEL_STREAM) {
         int last = GetLastLineIndex();
         bool startDone = false;
         LONG offset = 0;
@@ -146,7 +146,7 @@ short CTextZone::GetSelection(LONG* plStart, LONG* plEnd, int* pnStartChar, int*
         }
         if (!startDone && plStart) *plStart = offset + std::min(m_nSelStartChar, 0);
         if (plEnd) *plEnd = offset + std::min(m_nSelEndChar, 0);
-    } else if (wMode == 2) {
+    } else if (wMode == TZ_SEL_BOX) {
         if (plStart) *plStart = m_nSelStartLine;
         if (plEnd) *plEnd = m_nSelEndLine;
         bool box = m_nSelectionMode == TZ_SEL_BOX;

@@ -138,7 +138,7 @@ void CTextZoneReadOnly::DrawTextLine(CDC* pDC, int nLine) {
     const int h = frame.h;
     const int right = frame.right;
 
-    const bool bBox = m_nSelectionMode == 2;
+    const bool bBox = m_nSelectionMode == TZ_SEL_BOX;
     int A = -1;
     int B = -1;
     bool bSelected = false;
