@@ -15,7 +15,10 @@
 #include <optional>
 #include <vector>
 
-class CLinePool {
+#include "TextzoneExport.h"
+
+// Exported: a host's zone makes its lines here too, through NewLine.
+class TEXTZONE_EXPORT CLinePool {
 public:
     CLinePool() = default;
     CLinePool(const CLinePool&) = delete;

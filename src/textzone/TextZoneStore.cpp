@@ -403,8 +403,14 @@ void CTextZone::ShowOrphanedLines(int nFrom, int nTo) {
 void CTextZone::FreeAllLines() {
     m_bCheckValid = false;
     for (int b = 0; b < m_nBlockCount; ++b) {
-        for (int k = 0; k < m_pBlockSizes[b]; ++k)
-            DestroyLine(m_ppBlocks[b][k]);
+        for (int k = 0; k < m_pBlockSizes[b]; ++k) {
+            // A pooled line's memory goes with the pool below.
+            CStringEx* pLine = m_ppBlocks[b][k];
+            if (m_linePool.OwnsLine(pLine))
+                pLine->~CStringEx();
+            else
+                delete pLine;
+        }
         FreeStoreBlock(b);
         m_pBlockSizes[b] = 0;
     }
