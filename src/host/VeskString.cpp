@@ -91,7 +91,8 @@ void String::SetLength(std::uint32_t n) {
     Data()[n] = '\0';
 }
 
-void String::Splice(std::uint32_t nPos, std::uint32_t nRemove, const char* p, std::uint32_t nCount) {
+void String::Splice(std::uint32_t nPos, std::uint32_t nRemove, const char* p,
+                    std::uint32_t nCount) {
     char* bytes = Data();
     const std::uint32_t tail = m_nLength - nPos - nRemove;
     const std::uint64_t length = static_cast<std::uint64_t>(m_nLength) - nRemove + nCount;
@@ -223,7 +224,8 @@ String& String::discardRight(int n) {
 String& String::deleteAt(int nPos, int nCount) {
     const int from = Clamp(nPos);
     const int take = std::clamp(nCount, 0, GetLength() - from);
-    if (take > 0) Splice(static_cast<std::uint32_t>(from), static_cast<std::uint32_t>(take), nullptr, 0);
+    if (take > 0)
+        Splice(static_cast<std::uint32_t>(from), static_cast<std::uint32_t>(take), nullptr, 0);
     Fit();
     return *this;
 }

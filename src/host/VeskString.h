@@ -21,7 +21,7 @@ namespace VESK {
 
 class TEXTZONE_EXPORT String {
 public:
-    String() noexcept {}  // user-provided, so that a const String can be default-made
+    String() noexcept {}      // user-provided, so that a const String can be default-made
     String(const char* psz);  // null is the empty string
     String(const char* p, int nCount);
     String(char c, int nCount);
@@ -91,7 +91,7 @@ private:
 
     char* Data() { return m_nKind == kInline ? m_inline : m_pBytes; }
     const char* Data() const { return m_nKind == kInline ? m_inline : m_pBytes; }
-    int Clamp(int n) const;  // n limited to [0, length]
+    int Clamp(int n) const;           // n limited to [0, length]
     void SetLength(std::uint32_t n);  // within the capacity; writes the 0
     // Gives back the buffer of a string cut to a small part of it: a long
     // line cut into many short ones must not leave each its whole buffer.
@@ -103,7 +103,7 @@ private:
     void Release();  // frees a heap block; the string is left inline and empty
 
     union {
-        char* m_pBytes;                        // heap or lent bytes
+        char* m_pBytes;                           // heap or lent bytes
         char m_inline[kInlineCapacity + 1] = {};  // short texts and their 0
     };
     std::uint32_t m_nLength = 0;

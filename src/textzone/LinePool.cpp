@@ -45,8 +45,9 @@ void CLinePool::NewBlock() {
 bool CLinePool::OwnsLine(const void* p) const {
     const auto* at = static_cast<const std::byte*>(p);
     std::less<const std::byte*> before;
-    auto it = std::upper_bound(m_blocks.begin(), m_blocks.end(), at,
-                               [&](const std::byte* q, const Block& b) { return before(q, b.memory.get()); });
+    auto it = std::upper_bound(
+        m_blocks.begin(), m_blocks.end(), at,
+        [&](const std::byte* q, const Block& b) { return before(q, b.memory.get()); });
     if (it == m_blocks.begin()) return false;
     --it;
     return before(at, it->memory.get() + it->nBytes);

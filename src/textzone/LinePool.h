@@ -53,7 +53,7 @@ private:
     void NewBlock();
 
     std::size_t m_nLineSize = 0;
-    std::vector<Block> m_blocks;  // by address, for OwnsLine
+    std::vector<Block> m_blocks;   // by address, for OwnsLine
     std::byte* m_pNext = nullptr;  // the unused part of the newest block
     std::byte* m_pEnd = nullptr;
     void* m_pFree = nullptr;  // freed objects, each holding the next one's address

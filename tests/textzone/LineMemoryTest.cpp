@@ -97,7 +97,8 @@ TEST_F(LineMemoryTest, RandomEditsOfALoadedTextUndoAndRedo) {
             Edit(4, [&] { m_zone.DeleteSelection(0); });
             model.erase(static_cast<size_t>(a), static_cast<size_t>(b - a));
         } else {
-            std::string piece(static_cast<size_t>(pick(1, 120)), static_cast<char>('A' + step % 26));
+            std::string piece(static_cast<size_t>(pick(1, 120)),
+                              static_cast<char>('A' + step % 26));
             if (pick(0, 3) == 0) piece[piece.size() / 2] = '\n';
             Edit(6, [&] { m_zone.InsertText(piece.c_str(), 0, 1, 1); });
             model.replace(static_cast<size_t>(a), static_cast<size_t>(b - a), piece);
@@ -126,7 +127,8 @@ TEST_F(LineMemoryTest, TypingOutOfTheLentBytesAndBack) {
         const int end = m_zone.GetLine(line)->GetLength() - 1;
         Caret(line, end);
         Type(std::string(40, 'x'));
-        EXPECT_EQ(Bytes(m_zone.GetLine(line)), original.substr(0, end) + std::string(40, 'x') + "\r");
+        EXPECT_EQ(Bytes(m_zone.GetLine(line)),
+                  original.substr(0, end) + std::string(40, 'x') + "\r");
         Press(VK_BACK, kNone, 40 + end);
         EXPECT_EQ(Bytes(m_zone.GetLine(line)), "\r");
         Type("again");
@@ -141,7 +143,8 @@ TEST_F(LineMemoryTest, TypingOutOfTheLentBytesAndBack) {
 TEST_F(LineMemoryTest, CopiesOutliveTheZoneTheyCameFrom) {
     auto source = std::make_unique<CTestZone>();
     Attach(*source);
-    ASSERT_TRUE(source->SetText("alpha beta gamma delta\nz\nthe third line, long enough to need a heap\n"));
+    ASSERT_TRUE(
+        source->SetText("alpha beta gamma delta\nz\nthe third line, long enough to need a heap\n"));
     ASSERT_TRUE(m_zone.SetText("a line of the second zone that is long\nb\n"));
 
     // Line to line between zones: into lent bytes that hold it, into lent
@@ -214,7 +217,8 @@ TEST_F(LineMemoryTest, PooledAndHeapLinesOfOneZoneGoTheirOwnWay) {
         for (int i = 0; i < 150; ++i)
             ASSERT_NE(zone.InsertLine(100 + i), nullptr);
         EXPECT_EQ(zone.GetLineCount(), 450);
-        EXPECT_EQ(Bytes(zone.GetLine(99)) + "|" + Bytes(zone.GetLine(100)) + "|" + Bytes(zone.GetLine(250)),
+        EXPECT_EQ(Bytes(zone.GetLine(99)) + "|" + Bytes(zone.GetLine(100)) + "|" +
+                      Bytes(zone.GetLine(250)),
                   TextLine(text, 99) + "|" + "|" + TextLine(text, 300));
         zone.RemoveLines(0, zone.GetLineCount());
         EXPECT_EQ(zone.GetLineCount(), 0);
