@@ -309,6 +309,10 @@ protected:
 
     // Replays a TZ_UNIT_LINE_IMAGES unit and files its inverse.
     void ReplayLineImages(const CUndoUnit& unit);
+    // After undoing text typed or inserted on the place behind the text: the
+    // line that edit made there goes again, or the next undo that restores
+    // whole lines would leave it behind an unended line.
+    void DropEmptiedLastLine();
     // Steps a store place on by nLines lines; false past the end.
     bool AdvanceSlot(int* pBlock, int* pIndex, int nLines);
 

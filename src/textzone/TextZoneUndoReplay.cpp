@@ -165,6 +165,15 @@ void CTextZone::Redo() {
     Replay(*this, m_redoList, m_undoList);
 }
 
+void CTextZone::DropEmptiedLastLine() {
+    const int line = m_nSelStartLine;
+    const CStringEx* pLine = GetLine(line);
+    // Line 0 stays: an empty text keeps its one empty line.
+    if (line < 1 || !pLine || !pLine->IsEmpty() || line != GetLastLineIndex()) return;
+    const CStringEx* pPrev = GetLine(line - 1);
+    if (pPrev && pPrev->IsEnded()) RemoveLines(line, 1);
+}
+
 void CTextZone::PerformUndoing(CUndoOperation* pOperation) {
     if (!pOperation) return;
     const CUndoOperation& op = *pOperation;
@@ -226,6 +235,7 @@ void CTextZone::PerformUndoing(CUndoOperation* pOperation) {
                 if (unit.m_wType == TZ_UNIT_TYPED) m_nSelectionMode = TZ_SEL_STREAM;
                 SelectPlace(*this, unit);
                 DeleteSelection(1);
+                DropEmptiedLastLine();
                 m_nSelectionMode = unit.m_wSelMode;
                 RedrawLines(std::min(oldFirst, m_nSelStartLine), TZ_TO_END, 0);
                 break;

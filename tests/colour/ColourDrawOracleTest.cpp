@@ -4,7 +4,6 @@
 #include <random>
 
 #include "ColourPaint.h"
-#include "platform/headless/HeadlessFonts.h"
 
 namespace {
 
@@ -33,10 +32,7 @@ TEST_F(ColourPaintTest, ScrolledLongLinesShowWhatTheWholeWalkDraws) {
     CWnd wide;
     ASSERT_TRUE(wide.Create(WS_VISIBLE, RECT{0, 0, 60000, 40}, nullptr, 2));
     CTestColorZone oracle;
-    oracle.SetWindow(&wide);
-    RECT all{0, 0, 60000, 40};
-    oracle.SetRect(&all);
-    oracle.SetFont(m_font);
+    PutZoneInWindow(oracle, wide, m_font);
     for (unsigned int c = 1; c <= 9; ++c)
         oracle.SetSyntaxColor(c, TestClassColor(c));
     oracle.SetColors(kTestTextColor, 0xFFFFFF, kSelText, kSelBack);

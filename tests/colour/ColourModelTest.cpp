@@ -31,27 +31,28 @@ TEST(ColourModel, StoredColoursAndTheirParsing) {
     store.WriteString("Colors", "KeyWord6", "0,0,0");
     store.WriteString("Editor", "KeyWord5", "1,1,1");      // another section: not ours
     CTextZoneColor zone;
-    EXPECT_EQ(zone.GetSyntaxColor(1), 0x008000u);
-    EXPECT_EQ(zone.GetSyntaxColor(8), 44u);
-    EXPECT_EQ(zone.GetSyntaxColor(9), 0x030201u);
-    EXPECT_EQ(zone.GetSyntaxColor(2), 0xFF0000u);
-    EXPECT_EQ(zone.GetSyntaxColor(3), 0x808000u);
-    EXPECT_EQ(zone.GetSyntaxColor(4), 0x800000u);
-    EXPECT_EQ(zone.GetSyntaxColor(5), 0x090007u);
-    EXPECT_EQ(zone.GetSyntaxColor(6), 0xFF0000u);
-    EXPECT_EQ(zone.GetSyntaxColor(7), 0u);
+    // Classes 1 to 9: comment, the six keyword classes, string, variable.
+    auto colours = [&] {
+        std::vector<COLORREF> all;
+        for (unsigned int c = 1; c <= 9; ++c)
+            all.push_back(zone.GetSyntaxColor(c));
+        return all;
+    };
+    EXPECT_EQ(colours(), (std::vector<COLORREF>{0x008000, 0xFF0000, 0x808000, 0x800000, 0x090007,
+                                                0xFF0000, 0, 44, 0x030201}));
 
     // Read again after the store changed; without settings all defaults.
     store.WriteString("Colors", "Comment", "1,0,0");
     zone.ReadColorValues();
     EXPECT_EQ(zone.GetSyntaxColor(1), 1u);
+    const std::vector<COLORREF> defaults{0x008000, 0xFF0000, 0x808000, 0x800000, 0x000080,
+                                         0xFF0000, 0xFF0000, 0xFF00FF, 0x0000FF};
     store.SetSettingsAvailable(false);
     zone.ReadColorValues();
-    EXPECT_EQ(zone.GetSyntaxColor(1), 0x008000u);
-    EXPECT_EQ(zone.GetSyntaxColor(8), 0xFF00FFu);
+    EXPECT_EQ(colours(), defaults);
     AppDataManager::InstallAppDataManager(nullptr);
     zone.ReadColorValues();
-    EXPECT_EQ(zone.GetSyntaxColor(9), 0x0000FFu);
+    EXPECT_EQ(colours(), defaults);
 }
 
 TEST(ColourModel, EnableSyntaxColorSetsAndClearsTheLanguageFlags) {

@@ -2,8 +2,6 @@
 
 #include <cstdio>
 
-#include "platform/headless/HeadlessFonts.h"
-
 namespace {
 
 const char* const kNames[9] = {"Comment",  "KeyWord1", "KeyWord2", "KeyWord3", "KeyWord4",
@@ -21,26 +19,14 @@ std::string ClassName(COLORREF cr) {
 }
 
 void ColourTest::SetUp() {
-    HeadlessTest::SetUp();
-    LOGFONTA lf = CHeadlessFonts::MakeFont(CHeadlessFonts::kFixedFace, 16);
-    m_font.CreateFontIndirect(&lf);
-    Attach(m_zone);
+    ZoneWindowTest::SetUp();
     for (unsigned int c = 1; c <= 9; ++c)
         m_zone.SetSyntaxColor(c, TestClassColor(c));
     m_zone.SetColors(kTestTextColor, 0xFFFFFF, 0xFFFFFF, 0x800000);
 }
 
-void ColourTest::TearDown() {
-    m_zone.HideCaret();
-    HeadlessTest::TearDown();
-}
-
 void ColourTest::Attach(CTextZoneColor& zone) {
-    zone.SetWindow(&m_wnd);
-    RECT client;
-    m_wnd.GetClientRect(&client);
-    zone.SetRect(&client);
-    zone.SetFont(m_font);
+    PutZoneInWindow(zone, m_wnd, m_font);
 }
 
 std::string ColourTest::Runs(int nLine) {

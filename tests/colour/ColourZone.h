@@ -9,8 +9,7 @@
 #include <vector>
 
 #include "colour/TextZoneColor.h"
-#include "platform/Font.h"
-#include "support/HeadlessTest.h"
+#include "support/ZoneWindow.h"
 
 class CTestColorZone : public CTextZoneColor {
 public:
@@ -41,10 +40,9 @@ std::string ClassName(COLORREF cr);
 
 // A coloured zone in a headless window (the engine loads text only into a
 // zone that has one), with the test colours.
-class ColourTest : public HeadlessTest {
+class ColourTest : public ZoneWindowTest<CTestColorZone> {
 protected:
     void SetUp() override;
-    void TearDown() override;
     // Puts another zone in the same window, as SetUp does with m_zone.
     void Attach(CTextZoneColor& zone);
 
@@ -60,7 +58,4 @@ protected:
     // The runs of every line with the text each run covers, one run a line:
     // the form of the golden files.
     std::string Dump();
-
-    CFont m_font;
-    CTestColorZone m_zone;
 };

@@ -1,87 +1,12 @@
-// The language switches, the choice of keyword tables, and the tables
-// themselves: word counts, terminators and the entries kept as they are.
+// The language switches and the keyword tables each language chooses.
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <string>
 
 #include "ColourZone.h"
 #include "keywords/KeywordTables.h"
 
 namespace {
-
-int WordCount(const char* const* table) {
-    int n = 0;
-    while (table[n][0])
-        ++n;
-    return n;
-}
-
-TEST(KeywordTables, WordCounts) {
-    struct Row {
-        const char* name;
-        const char* const* table;
-        int count;
-    };
-#define T(name, count) {#name, szKeyWord##name, count}
-    const Row rows[] = {
-        T(CPP1, 32), T(CPP2, 29), T(CPP3, 13), T(CPP4, 16), T(CPP5, 3), T(CPP6, 5),
-        T(SQL1, 105), T(SQL6, 3),
-        T(SQL2_4, 24), T(SQL2_6, 26), T(SQL2_70, 30), T(SQL2_80, 32), T(SQL2_90, 33),
-        T(SQL2_10, 28), T(SQL2_125, 30), T(SQL2_150, 30),
-        T(SQL3_4, 32), T(SQL3_6, 31), T(SQL3_65, 33), T(SQL3_70, 34), T(SQL3_10, 38),
-        T(SQL3_11, 42), T(SQL3_12, 51), T(SQL3_125, 64), T(SQL3_150, 99),
-        T(SQL4_4, 68), T(SQL4_6, 73), T(SQL4_65, 72), T(SQL4_70, 111), T(SQL4_10, 68),
-        T(SQL4_125, 70), T(SQL4_150, 133),
-        T(SQL5_4, 18), T(SQL5_6, 55), T(SQL5_65, 73), T(SQL5_70, 85), T(SQL5_80, 94),
-        T(SQL5_90, 98), T(SQL5_10, 66), T(SQL5_11, 70), T(SQL5_115, 84), T(SQL5_119, 84),
-        T(SQL5_12, 88), T(SQL5_125, 114), T(SQL5_150, 128),
-        T(ORA1, 81), T(ORA2, 26), T(ORA3, 107), T(ORA4, 76), T(ORA5, 18), T(ORA6, 132),
-        T(ORA8_1, 81), T(ORA8_2, 26), T(ORA8_3, 109), T(ORA8_4, 76), T(ORA8_5, 18),
-        T(ORA8_6, 155), T(ORA81_1, 81), T(ORA81_2, 29), T(ORA81_3, 109), T(ORA81_4, 80),
-        T(ORA81_5, 21), T(ORA81_6, 178), T(ORA90_4, 119), T(ORA90_6, 191),
-        T(UDB_1, 477), T(UDB_2, 27), T(UDB_3, 1),
-        T(PB_1, 82), T(PB4, 1), T(PB567, 16),
-        T(VB_1, 140), T(VBN_1, 116), T(VBN_2, 13), T(VBN_3, 13), T(VBN_4, 7),
-        T(DP_1, 81), T(DP_2, 37), T(DP_4, 31), T(DP_5, 20), T(DP_6, 6),
-        T(JV_1, 53), T(CS_1, 61), T(CS2_1, 71), T(CS_2, 18), T(CS_3, 12),
-        T(Cbl_1, 51), T(Cbl_2, 20), T(Cbl_3, 119),
-        T(JCL_1, 18), T(JCL_2, 14), T(JCL_3, 11), T(JCL_4, 13),
-        T(CC_1, 43), T(CC_2, 11), T(CC_3, 4), T(Ims_1, 13), T(Csd_1, 18), T(Csd_2, 86),
-        T(ObjC_1, 61), T(ObjC_2, 26), T(ObjC_3, 3),
-        T(HTM_El, 91), T(HTM_At, 119), T(HTM_En, 5), T(Empty, 0),
-    };
-#undef T
-    EXPECT_EQ(std::size(rows), 106u);
-    for (const Row& r : rows)
-        EXPECT_EQ(WordCount(r.table), r.count) << r.name;
-}
-
-TEST(KeywordTables, EntriesKeptAsTheyStand) {
-    // Trailing blanks, repeated words, preprocessor words with their "#",
-    // and entries that hold another before that other.
-    EXPECT_STREQ(szKeyWordObjC_2[5], "decimal ");
-    EXPECT_STREQ(szKeyWordObjC_2[6], "delegate ");
-    EXPECT_STREQ(szKeyWordCPP3[0], "#include");
-    EXPECT_STREQ(szKeyWordVBN_4[4], "#end region");
-    EXPECT_STREQ(szKeyWordVBN_4[6], "#end");
-    EXPECT_STREQ(szKeyWordHTM_At[1], "accept-charset");
-    EXPECT_STREQ(szKeyWordHTM_At[2], "accept");
-    EXPECT_STREQ(szKeyWordJCL_4[0], "/*$");
-    for (const char* const* table : {szKeyWordCsd_2, szKeyWordUDB_1}) {
-        int repeats = 0;
-        for (int i = 0; table[i][0]; ++i)
-            for (int j = 0; j < i; ++j)
-                repeats += std::strcmp(table[i], table[j]) == 0;
-        EXPECT_EQ(repeats, 1);
-    }
-    // Lower case everywhere but in the JCL tables and a few Objective-C words.
-    for (const char* const* table :
-         {szKeyWordSQL1, szKeyWordSQL4_150, szKeyWordORA90_6, szKeyWordUDB_1, szKeyWordVB_1})
-        for (int i = 0; table[i][0]; ++i)
-            for (const char* p = table[i]; *p; ++p)
-                EXPECT_FALSE(*p >= 'A' && *p <= 'Z') << table[i];
-}
 
 struct Lists {
     const char** t[6];

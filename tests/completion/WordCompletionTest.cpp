@@ -10,9 +10,7 @@
 #include "completion/CompletionList.h"
 #include "host/Collator.h"
 #include "platform/Caret.h"
-#include "platform/Font.h"
-#include "platform/headless/HeadlessFonts.h"
-#include "support/HeadlessTest.h"
+#include "support/ZoneWindow.h"
 
 namespace {
 
@@ -33,24 +31,13 @@ public:
     }
 };
 
-class WordCompletionTest : public HeadlessTest {
+class WordCompletionTest : public ZoneWindowTest<CExtraZone> {
 protected:
     void SetUp() override {
-        HeadlessTest::SetUp();
-        LOGFONTA lf = CHeadlessFonts::MakeFont(CHeadlessFonts::kFixedFace, 16);
-        m_font.CreateFontIndirect(&lf);
-        m_zone.SetWindow(&m_wnd);
-        RECT client;
-        m_wnd.GetClientRect(&client);
-        m_zone.SetRect(&client);
-        m_zone.SetFont(m_font);
+        ZoneWindowTest::SetUp();
         m_zone.SetSQLSyntaxColor(kTransactSql);
         m_zone.SetWordCompletion(3);
         m_wnd.SetFocus();
-    }
-    void TearDown() override {
-        m_zone.HideCaret();
-        HeadlessTest::TearDown();
     }
 
     // The text with the caret at its end (or at nCaret).
@@ -80,9 +67,6 @@ protected:
         CStringEx* p = m_zone.GetLine(n);
         return p ? std::string(p->c_str(), p->GetLength() - p->IsEnded()) : "<none>";
     }
-
-    CFont m_font;
-    CExtraZone m_zone;
 };
 
 TEST_F(WordCompletionTest, TheCandidateTakesTheCaseOfThePrefixAndEndsInOneBlank) {

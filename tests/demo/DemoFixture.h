@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QImage>
 #include <QTemporaryDir>
 #include <deque>
 #include <string>
@@ -16,6 +17,7 @@
 #include "apps/demo/DemoWindow.h"
 #include "host/MemoryAppDataManager.h"
 #include "platform/qt/QtPlatform.h"
+#include "support/ZoneText.h"
 #include "zones/TextZoneParam.h"
 
 // Answers given in advance; what the demo said is kept.
@@ -80,14 +82,17 @@ protected:
     CDemoView* View() { return m_window.ActiveView(); }
     CDemoDocument* Doc() { return m_window.ActiveDocument(); }
     QWidget* ViewWidget() { return CQtPlatform::WidgetOf(View()); }
-    // The active text with LF line ends and none after the last line.
-    std::string Text() {
-        CTextZoneParam& zone = *View()->GetTextZone();
-        std::string text(static_cast<size_t>(zone.GetTextLength(1 | 32)) + 2, '\0');
-        zone.GetText(text.data(), static_cast<LONG>(text.size()), 1 | 32);
-        text.resize(std::char_traits<char>::length(text.c_str()));
-        return text;
+    // The pixels of the widget as shown that have the colour.
+    static int CountPixels(QWidget* pWidget, QRgb color) {
+        const QImage image = pWidget->grab().toImage();
+        int n = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                n += image.pixel(x, y) == color;
+        return n;
     }
+    // The active text with LF line ends and none after the last line.
+    std::string Text() { return ZoneText(*View()->GetTextZone(), 1 | 32); }
 
     CQtPlatform m_platform;
     CMemoryAppDataManager m_store;

@@ -11,15 +11,6 @@
 
 namespace {
 
-int CountPixels(QWidget* pWidget, QRgb color) {
-    const QImage image = pWidget->grab().toImage();
-    int n = 0;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            if (image.pixel(x, y) == color) ++n;
-    return n;
-}
-
 TEST_F(DemoTest, ToolsOptionsChangesTheOpenEditorOnApply) {
     ASSERT_TRUE(m_window.OpenFile(Write("-- a comment line\nSELECT 1\n\tx\n")));
     Pump();

@@ -81,6 +81,11 @@ TEST_F(DemoTest, MenusShowWhatTheirCommandsCanDoNow) {
     EXPECT_TRUE(pCut->isEnabled());
     EXPECT_TRUE(pBox->isChecked());
     EXPECT_FALSE(m_window.ActionOf(ID_EDIT_STREAMMODE)->isChecked());
+    EXPECT_EQ(View()->GetTextZone()->GetSelectionMode(), 2);
+    m_window.ActionOf(ID_EDIT_STREAMMODE)->trigger();
+    emit pEdit->aboutToShow();
+    EXPECT_FALSE(pBox->isChecked());
+    EXPECT_EQ(View()->GetTextZone()->GetSelectionMode(), 1);
     // Closed again, a shortcut asks its command's state when it comes.
     emit pEdit->aboutToHide();
     EXPECT_TRUE(m_window.ActionOf(ID_EDIT_REDO)->isEnabled());
@@ -118,14 +123,7 @@ TEST_F(DemoTest, TabIndentsTheSelectedLinesAndAltDragSelectsABox) {
 }
 
 TEST_F(DemoTest, TextsAreColouredByTheirLanguage) {
-    auto count = [&](QRgb color) {
-        QImage image = CQtPlatform::WidgetOf(View())->grab().toImage();
-        int n = 0;
-        for (int y = 0; y < image.height(); ++y)
-            for (int x = 0; x < image.width(); ++x)
-                if (image.pixel(x, y) == color) ++n;
-        return n;
-    };
+    auto count = [&](QRgb color) { return CountPixels(ViewWidget(), color); };
     const QRgb keyword = qRgb(0, 0, 255);
     ASSERT_TRUE(m_window.OpenFile(Write("SELECT 1\n")));
     Pump();

@@ -19,30 +19,22 @@ LOGFONTA FontOf(HFONT hFont) {
 
 TEST_F(EditorExTest, EveryGetDefReadsItsKeyAfreshWithTheTableDefaults) {
     // An empty store: the defaults of the key table.
-    EXPECT_EQ(m_editor.GetDefTabSize(), 4);
-    EXPECT_EQ(m_editor.GetDefTabConvert(), 0);
-    EXPECT_EQ(m_editor.GetDefWordCompletion(), 1);
-    EXPECT_EQ(m_editor.GetDefKeywordMode(), 0);
-    EXPECT_EQ(m_editor.GetDefDragDropFlag(), 1);
-    EXPECT_EQ(m_editor.GetDefMarginMode(), 0);
-    EXPECT_EQ(m_editor.GetDefBlockMode(), 0);
-    EXPECT_EQ(m_editor.GetDefMarginColor(), 0xD0D0D0u);
-    EXPECT_EQ(m_editor.GetDefBookmarkColor(), 0x800000u);
-    EXPECT_EQ(m_editor.GetDefTextColor(), static_cast<COLORREF>(-1));
-    EXPECT_EQ(m_editor.GetDefBackgroundColor(), static_cast<COLORREF>(-1));
-    EXPECT_EQ(m_editor.GetDefSelectedTextColor(), static_cast<COLORREF>(-1));
-    EXPECT_EQ(m_editor.GetDefSelectedBkgColor(), static_cast<COLORREF>(-1));
-    EXPECT_EQ(m_editor.GetDefSyntaxColorEnable(), 1);
-    EXPECT_EQ(m_editor.GetDefSyntaxColorLang(), 10);
-    EXPECT_EQ(m_editor.GetDefShortcutsEnable(), 1);
-    EXPECT_EQ(m_editor.GetDefSyntaxColor(0), RGB(0, 127, 0));
-    EXPECT_EQ(m_editor.GetDefSyntaxColor(4), RGB(127, 0, 0));
-    EXPECT_EQ(m_editor.GetDefSyntaxColor(7), RGB(255, 0, 255));
-    EXPECT_EQ(m_editor.GetDefSyntaxColor(8), RGB(255, 0, 0));
+    CEditorEx& e = m_editor;
+    const std::pair<long long, long long> defaults[] = {
+        {e.GetDefTabSize(), 4},          {e.GetDefTabConvert(), 0},
+        {e.GetDefWordCompletion(), 1},   {e.GetDefKeywordMode(), 0},
+        {e.GetDefDragDropFlag(), 1},     {e.GetDefMarginMode(), 0},
+        {e.GetDefBlockMode(), 0},        {e.GetDefMarginColor(), 0xD0D0D0},
+        {e.GetDefBookmarkColor(), 0x800000}, {e.GetDefTextColor(), 0xFFFFFFFF},
+        {e.GetDefBackgroundColor(), 0xFFFFFFFF}, {e.GetDefSelectedTextColor(), 0xFFFFFFFF},
+        {e.GetDefSelectedBkgColor(), 0xFFFFFFFF}, {e.GetDefSyntaxColorEnable(), 1},
+        {e.GetDefSyntaxColorLang(), 10}, {e.GetDefShortcutsEnable(), 1},
+        {e.GetDefSyntaxColor(0), RGB(0, 127, 0)}, {e.GetDefSyntaxColor(4), RGB(127, 0, 0)},
+        {e.GetDefSyntaxColor(7), RGB(255, 0, 255)}, {e.GetDefSyntaxColor(8), RGB(255, 0, 0)}};
+    for (size_t i = 0; i < std::size(defaults); ++i)
+        EXPECT_EQ(defaults[i].first, defaults[i].second) << "row " << i;
     LOGFONTA lf = *m_editor.GetDefFont();
-    EXPECT_EQ(lf.lfHeight, -14);
-    EXPECT_EQ(lf.lfWeight, 400);
-    EXPECT_EQ(lf.lfItalic, 0);
+    EXPECT_EQ(std::make_tuple(lf.lfHeight, lf.lfWeight, lf.lfItalic), std::make_tuple(-14, 400, 0));
     EXPECT_STREQ(lf.lfFaceName, "Courier New");
 
     // A change in the store shows at the next call, with no reload between.
@@ -117,19 +109,17 @@ TEST_F(EditorExTest, CreationLoadsTheSettingsAndTheFirstMessageKeepsThem) {
     const LOGFONTA lf = FontOf(zone.GetFont());
     EXPECT_EQ(lf.lfHeight, -20);
     EXPECT_EQ(lf.lfWeight, 700);
-    EXPECT_EQ(editor.m_crBackground, RGB(1, 2, 3));
     COLORREF crText, crBack, crSelText, crSelBack;
     zone.GetColors(&crText, &crBack, &crSelText, &crSelBack);
-    EXPECT_EQ(crBack, RGB(1, 2, 3));
-    EXPECT_TRUE(zone.IsMarginMode());
-    EXPECT_EQ(zone.GetKeywordMode(), 1u);
-    EXPECT_EQ(zone.GetWordCompletion(), 0u);
-    EXPECT_EQ(zone.GetTabConvert(), 1);
-    EXPECT_EQ(zone.GetBookmarkColor(0), RGB(9, 9, 9));
-    EXPECT_TRUE(zone.IsSyntaxColorEnabled());
-    EXPECT_EQ(zone.GetSyntaxColor(1), RGB(1, 2, 3));
-    EXPECT_EQ(zone.GetSyntaxColor(2), RGB(0, 0, 255));
-    EXPECT_TRUE(zone.GetShortcuts().empty());
+    const std::pair<long long, long long> loaded[] = {
+        {editor.m_crBackground, RGB(1, 2, 3)}, {crBack, RGB(1, 2, 3)},
+        {zone.IsMarginMode(), 1},              {zone.GetKeywordMode(), 1},
+        {zone.GetWordCompletion(), 0},         {zone.GetTabConvert(), 1},
+        {zone.GetBookmarkColor(0), RGB(9, 9, 9)}, {zone.IsSyntaxColorEnabled(), 1},
+        {zone.GetSyntaxColor(1), RGB(1, 2, 3)}, {zone.GetSyntaxColor(2), RGB(0, 0, 255)},
+        {static_cast<long long>(zone.GetShortcuts().size()), 0}};
+    for (size_t i = 0; i < std::size(loaded); ++i)
+        EXPECT_EQ(loaded[i].first, loaded[i].second) << "row " << i;
 
     // A tab size stored negative or positive is the same width.
     Set("TabSize", 8);

@@ -1,84 +1,27 @@
 // The editor views in frames of a main window of several documents: what
 // reaches which view, what marks which document, what menus and panes show.
-#include <memory>
 #include <string>
 
-#include "editor/EditFrm.h"
-#include "editor/EditorViewEx.h"
-#include "host/MemoryAppDataManager.h"
+#include "ViewsFixture.h"
 #include "platform/CmdUI.h"
-#include "platform/Document.h"
-#include "platform/MDIFrameWnd.h"
 #include "platform/Messages.h"
-#include "platform/Platform.h"
-#include "platform/headless/HeadlessPlatform.h"
 #include "resources/EditorResources.h"
-#include "support/HeadlessTest.h"
-#include "zones/TextZoneParam.h"
 
 namespace {
 
-class CTestDoc : public CDocument {
-public:
-    BOOL SaveModified() override {
-        ++m_nAsked;
-        return m_bLetGo;
-    }
-    int m_nAsked = 0;
-    BOOL m_bLetGo = TRUE;
-};
-
-class ViewTest : public ::testing::Test {
+class ViewTest : public ViewsTest {
 protected:
-    void SetUp() override {
-        AppDataManager::InstallAppDataManager(&m_store);
-        m_main.Create(WS_VISIBLE, RECT{0, 0, 800, 600}, nullptr, 0);
-        static const UINT kPanes[] = {ID_SEPARATOR, ID_INDICATOR_LINE, ID_INDICATOR_MODE};
-        m_main.m_wndStatusBar.SetIndicators(kPanes, 3);
-        m_pViewA = Open("a.sql", &m_pDocA);
-        m_pViewB = Open("b.sql", &m_pDocB);
-    }
-    void TearDown() override {
-        m_main.DestroyWindow();
-        AppDataManager::InstallAppDataManager(nullptr);
-    }
-    CEditorViewEx* Open(const char* pszName, CTestDoc** ppDoc) {
-        auto pDoc = std::make_unique<CTestDoc>();
-        pDoc->SetTitle(pszName);
-        *ppDoc = pDoc.get();
-        std::unique_ptr<CEditorViewEx> pView(CEditorViewEx::CreateObject());
-        CEditorViewEx* pRaw = pView.get();
-        m_main.OpenDocument(std::move(pDoc), std::make_unique<CEditFrm>(), std::move(pView));
-        return pRaw;
-    }
-    void Type(CWnd* pView, const char* psz) {
-        for (; *psz; ++psz)
-            pView->SendMessage(WM_CHAR, static_cast<unsigned char>(*psz), 1);
-    }
-    std::string Text(CEditorViewEx* pView) {
-        char buffer[256] = {};
-        pView->GetTextZone()->GetText(buffer, sizeof buffer, 1 | 32);
-        return buffer;
-    }
-    std::string FrameTitle(CEditorViewEx* pView) {
-        char title[128];
-        pView->GetParentFrame()->GetWindowText(title, sizeof title);
-        return title;
-    }
     CCmdUI Update(UINT nID) {
         CCmdUI ui;
         ui.m_nID = nID;
         ui.DoUpdate(&m_main, TRUE);
         return ui;
     }
-
-    CHeadlessPlatform m_platform;
-    CMemoryAppDataManager m_store;
-    CMDIFrameWnd m_main;
-    CTestDoc* m_pDocA = nullptr;
-    CTestDoc* m_pDocB = nullptr;
-    CEditorViewEx* m_pViewA = nullptr;
-    CEditorViewEx* m_pViewB = nullptr;
+    std::string FrameTitle(CEditorViewEx* pView) {
+        char title[128];
+        pView->GetParentFrame()->GetWindowText(title, sizeof title);
+        return title;
+    }
 };
 
 TEST_F(ViewTest, TypingMarksOnlyItsOwnDocumentAndArrowsMarkNothing) {
@@ -94,33 +37,16 @@ TEST_F(ViewTest, TypingMarksOnlyItsOwnDocumentAndArrowsMarkNothing) {
     EXPECT_EQ(FrameTitle(m_pViewA), "a.sql");
 }
 
-TEST_F(ViewTest, MenuCommandsReachTheActiveViewOnly) {
-    Type(m_pViewA, "aaa");
-    Type(m_pViewB, "bbb");
-    m_main.SendMessage(WM_COMMAND, ID_EDIT_SELECT_ALL, 0);
-    m_main.SendMessage(WM_COMMAND, ID_EDIT_CUT, 0);
-    EXPECT_EQ(Text(m_pViewB), "");
-    EXPECT_EQ(Text(m_pViewA), "aaa");
-    EXPECT_EQ(m_platform.GetClipboardText(), "bbb");
-
-    m_main.MDIActivate(static_cast<CMDIChildWnd*>(m_pViewA->GetParentFrame()));
-    m_main.SendMessage(WM_COMMAND, ID_EDIT_SELECT_ALL, 0);
-    m_main.SendMessage(WM_COMMAND, ID_EDIT_PASTE, 0);
-    EXPECT_EQ(Text(m_pViewA), "bbb");
-    m_main.SendMessage(WM_COMMAND, ID_EDIT_UNDO, 0);
-    EXPECT_EQ(Text(m_pViewA), "aaa");
-}
-
 TEST_F(ViewTest, EveryEditCommandMarksTheDocumentAndCopyDoesNot) {
     Type(m_pViewB, "abc");
     CTextZoneParam& zone = *m_pViewB->GetTextZone();
     auto after = [&](UINT nID) {
         zone.SetModify(0);
         m_pDocB->SetModifiedFlag(FALSE);
-        m_main.SendMessage(WM_COMMAND, nID, 0);
+        Command(nID);
         return m_pDocB->IsModified() != FALSE;
     };
-    m_main.SendMessage(WM_COMMAND, ID_EDIT_SELECT_ALL, 0);
+    Command(ID_EDIT_SELECT_ALL);
     EXPECT_FALSE(after(ID_EDIT_COPY));
     EXPECT_FALSE(after(ID_EDIT_SELECT_ALL));
     EXPECT_TRUE(after(ID_EDIT_CUT));
@@ -147,7 +73,7 @@ TEST_F(ViewTest, CommandStatesFollowTheView) {
     EXPECT_FALSE(Update(ID_EDIT_REDO).m_bEnabled);
     EXPECT_TRUE(Update(ID_EDIT_PASTE).m_bEnabled);
     EXPECT_TRUE(Update(ID_EDIT_SELECT_ALL).m_bEnabled);
-    m_main.SendMessage(WM_COMMAND, ID_EDIT_SELECT_ALL, 0);
+    Command(ID_EDIT_SELECT_ALL);
     EXPECT_TRUE(Update(ID_EDIT_CUT).m_bEnabled);
     EXPECT_TRUE(Update(ID_EDIT_CLEAR_ALL).m_bEnabled);
     m_pViewB->GetTextZone()->SetReadOnly(1);
@@ -157,48 +83,37 @@ TEST_F(ViewTest, CommandStatesFollowTheView) {
     m_pViewB->EnableWindow(FALSE);
     EXPECT_FALSE(Update(ID_EDIT_CUT).m_bEnabled);
     EXPECT_FALSE(Update(ID_EDIT_UNDO).m_bEnabled);
-    m_main.SendMessage(WM_COMMAND, ID_EDIT_CLEAR_ALL, 0);
+    Command(ID_EDIT_CLEAR_ALL);
     EXPECT_EQ(Text(m_pViewB), "abc");  // a disabled view does nothing
     m_pViewB->EnableWindow(TRUE);
-    m_main.SendMessage(WM_COMMAND, ID_EDIT_CLEAR_ALL, 0);
+    Command(ID_EDIT_CLEAR_ALL);
     EXPECT_EQ(Text(m_pViewB), "");
     EXPECT_TRUE(m_pDocB->IsModified());
-}
-
-TEST_F(ViewTest, BoxAndStreamModeAreCheckedAndSwitch) {
-    m_pViewB->GetTextZone()->SetText("one\ntwo");
-    EXPECT_EQ(Update(ID_EDIT_STREAMMODE).m_nCheck, 1);
-    EXPECT_EQ(Update(ID_EDIT_BOXMODE).m_nCheck, 0);
-    EXPECT_TRUE(Update(ID_EDIT_BOXMODE).m_bEnabled);
-    m_main.SendMessage(WM_COMMAND, ID_EDIT_BOXMODE, 0);
-    EXPECT_EQ(m_pViewB->GetTextZone()->GetSelectionMode(), 2);
-    EXPECT_EQ(Update(ID_EDIT_BOXMODE).m_nCheck, 1);
-    EXPECT_EQ(Update(ID_EDIT_STREAMMODE).m_nCheck, 0);
-    m_main.SendMessage(WM_COMMAND, ID_EDIT_STREAMMODE, 0);
-    EXPECT_EQ(m_pViewB->GetTextZone()->GetSelectionMode(), 1);
 }
 
 TEST_F(ViewTest, BookmarkCommandsMoveBetweenMarkedLines) {
     CTextZoneParam& zone = *m_pViewB->GetTextZone();
     zone.SetText("a\nb\nc\nd");
     zone.SetSelection(1, 1, 0, 0, 0, 1);
-    m_main.SendMessage(WM_COMMAND, ID_VIEW_TOGGLEBOOKMARK, 0);
+    Command(ID_VIEW_TOGGLEBOOKMARK);
     zone.SetSelection(3, 3, 0, 0, 0, 1);
-    m_main.SendMessage(WM_COMMAND, ID_VIEW_TOGGLEBOOKMARK, 0);
+    Command(ID_VIEW_TOGGLEBOOKMARK);
     zone.SetSelection(0, 0, 0, 0, 0, 1);
     LONG lFirst = 0, lLast = 0;
-    m_main.SendMessage(WM_COMMAND, ID_VIEW_NEXTBOOKMARK, 0);
+    Command(ID_VIEW_NEXTBOOKMARK);
     zone.GetSelection(&lFirst, &lLast, nullptr, nullptr, 0);
     EXPECT_EQ(lFirst, 1);
-    m_main.SendMessage(WM_COMMAND, ID_VIEW_NEXTBOOKMARK, 0);
+    Command(ID_VIEW_NEXTBOOKMARK);
     zone.GetSelection(&lFirst, &lLast, nullptr, nullptr, 0);
     EXPECT_EQ(lFirst, 3);
-    m_main.SendMessage(WM_COMMAND, ID_VIEW_PREVBOOKMARK, 0);
+    Command(ID_VIEW_PREVBOOKMARK);
     zone.GetSelection(&lFirst, &lLast, nullptr, nullptr, 0);
     EXPECT_EQ(lFirst, 1);
 }
 
 TEST_F(ViewTest, StatusPanesShowTheLineOfTheActiveView) {
+    static const UINT kPanes[] = {ID_SEPARATOR, ID_INDICATOR_LINE, ID_INDICATOR_MODE};
+    m_main.m_wndStatusBar.SetIndicators(kPanes, 3);
     m_pViewB->GetTextZone()->SetText("a\nb\nc");
     m_pViewB->GetTextZone()->SetSelection(2, 2, 0, 0, 0, 1);
     m_main.SendMessage(WM_IDLEUPDATECMDUI);
@@ -206,16 +121,14 @@ TEST_F(ViewTest, StatusPanesShowTheLineOfTheActiveView) {
     EXPECT_EQ(bar.GetShownText(1), "00003");
     // The mode pane has no handler of its own: it shows nothing.
     EXPECT_EQ(bar.GetShownText(2), "");
-    m_main.MDIActivate(static_cast<CMDIChildWnd*>(m_pViewA->GetParentFrame()));
+    Activate(m_pViewA);
     EXPECT_EQ(bar.GetShownText(1), "00001");
 }
 
 TEST_F(ViewTest, SettingsBroadcastReachesEveryViewAndReadsAfresh) {
     CTextZoneParam& a = *m_pViewA->GetTextZone();
     CTextZoneParam& b = *m_pViewB->GetTextZone();
-    EXPECT_EQ(m_pViewA->GetDefTabSize(), 4);
-    m_store.WriteInt("Editor", "TabSize", -8);  // negative: its absolute value
-    EXPECT_EQ(m_pViewA->GetDefTabSize(), -8);
+    m_store.WriteInt("Editor", "TabSize", -8);
     m_store.WriteInt("Editor", "UseSyntaxColor", 0);
     m_store.WriteInt("Editor", "FontNorBkgColor", 0x123456);
     CEditorDefaults::BroadcastSettingsChanged();

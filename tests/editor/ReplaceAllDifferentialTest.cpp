@@ -12,9 +12,7 @@
 
 #include "colour/TextZoneColor.h"
 #include "editor/EditFindReplace.h"
-#include "platform/Font.h"
-#include "platform/headless/HeadlessFonts.h"
-#include "support/HeadlessTest.h"
+#include "support/ZoneWindow.h"
 #include "textzone/TextZone.h"
 
 namespace {
@@ -29,13 +27,7 @@ template <class Zone>
 struct Doc {
     explicit Doc(int nId) {
         wnd.Create(WS_VISIBLE, RECT{0, 0, 240, 160}, nullptr, nId);
-        LOGFONTA lf = CHeadlessFonts::MakeFont(CHeadlessFonts::kFixedFace, 16);
-        font.CreateFontIndirect(&lf);
-        zone.SetWindow(&wnd);
-        RECT client;
-        wnd.GetClientRect(&client);
-        zone.SetRect(&client);
-        zone.SetFont(font);
+        PutZoneInWindow(zone, wnd, font);
     }
     ~Doc() {
         zone.HideCaret();

@@ -12,6 +12,7 @@
 
 #include "host/AppDataManager.h"
 #include "host/qt/QtAppDataManager.h"
+#include "support/ScopedEnv.h"
 
 namespace {
 
@@ -21,21 +22,12 @@ struct IntKey {
     int value;  // something else to store
 };
 
-// The editor's keys with their defaults.
+// Editor keys of each kind of value: sizes, negative tab sizes, flags,
+// colours up to 24 bits and -1 for the system's colour.
 const IntKey kIntKeys[] = {
-    {"FontSize", 14, 22},          {"FontBold", 0, 1},
-    {"FontItalic", 0, 1},          {"FontUnderline", 0, 1},
-    {"FontStrikeOut", 0, 1},       {"TabSize", 4, -8},
-    {"ConvertTabs", 0, 1},         {"WordCompletion", 1, 0},
-    {"KeywordMode", 0, 3},         {"DragDropEdit", 1, 0},
-    {"MarginMode", 0, 2},          {"BlockMode", 0, 1},
-    {"MarginBkgColor", 0xD0D0D0, 0x102030},
-    {"BookmarkColor", 0x800000, 0xFFFFFF},
-    {"FontNorFrgColor", -1, 0x000080},
-    {"FontNorBkgColor", -1, 0},
-    {"FontSelFrgColor", -1, 0xFFFFFF},
-    {"FontSelBkgColor", -1, 0x7F7F7F},
-    {"UseSyntaxColor", 1, 0},      {"EnableShortcuts", 1, 0},
+    {"FontSize", 14, 22},          {"TabSize", 4, -8},
+    {"WordCompletion", 1, 0},      {"MarginBkgColor", 0xD0D0D0, 0x102030},
+    {"FontNorFrgColor", -1, 0x80}, {"FontSelBkgColor", 0, -1},
 };
 
 struct StringKey {
@@ -48,12 +40,6 @@ const StringKey kStringKeys[] = {
     {"FontName", "Courier New", "DejaVu Sans Mono"},
     {"Comment", "000,127,000", "0,128,0"},
     {"KeyWord1", "000,000,255", "12,34"},
-    {"KeyWord2", "000,127,127", "255,255,255"},
-    {"KeyWord3", "000,000,127", "1,2,3"},
-    {"KeyWord4", "127,000,000", "100,0,0"},
-    {"KeyWord5", "000,000,255", "000,000,254"},
-    {"KeyWord6", "000,000,255", "9,9,9"},
-    {"String", "255,000,255", "255,0,254"},
     {"Variable", "255,000,000", "254,000,000"},
 };
 
@@ -62,23 +48,11 @@ protected:
     void SetUp() override {
         ASSERT_TRUE(m_dir.isValid());
         // Nothing here may reach the real home.
-        for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME"}) {
-            const char* value = std::getenv(name);
-            m_saved.push_back({name, value ? value : "", value != nullptr});
-        }
-        ::setenv("HOME", Path("home").c_str(), 1);
-        ::setenv("XDG_CONFIG_HOME", Path("config").c_str(), 1);
-        ::unsetenv("XDG_DATA_HOME");
+        m_env.Set("HOME", Path("home").c_str());
+        m_env.Set("XDG_CONFIG_HOME", Path("config").c_str());
+        m_env.Set("XDG_DATA_HOME", nullptr);
     }
-    void TearDown() override {
-        AppDataManager::InstallAppDataManager(nullptr);
-        for (const Saved& saved : m_saved) {
-            if (saved.bSet)
-                ::setenv(saved.name, saved.value.c_str(), 1);
-            else
-                ::unsetenv(saved.name);
-        }
-    }
+    void TearDown() override { AppDataManager::InstallAppDataManager(nullptr); }
     std::string Path(const char* relative) const {
         return m_dir.filePath(relative).toStdString();
     }
@@ -100,13 +74,8 @@ protected:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
-    struct Saved {
-        const char* name;
-        std::string value;
-        bool bSet;
-    };
     QTemporaryDir m_dir;
-    std::vector<Saved> m_saved;
+    CScopedEnv m_env;
 };
 
 }  // namespace
@@ -269,19 +238,19 @@ TEST_F(QtAppDataManagerTest, EveryReadSeesTheFileAsItIsNow) {
 TEST_F(QtAppDataManagerTest, TheFileAndTheDataDirectoryFollowTheEnvironment) {
     EXPECT_EQ(CQtAppDataManager::DefaultFilePath(), Path("config/textzone/textzone.ini"));
     // Unset or relative: the configuration folder of the home directory.
-    ::setenv("XDG_CONFIG_HOME", "relative/dir", 1);
+    m_env.Set("XDG_CONFIG_HOME", "relative/dir");
     EXPECT_EQ(CQtAppDataManager::DefaultFilePath(), Path("home/.config/textzone/textzone.ini"));
-    ::unsetenv("XDG_CONFIG_HOME");
+    m_env.Set("XDG_CONFIG_HOME", nullptr);
     EXPECT_EQ(CQtAppDataManager::DefaultFilePath(), Path("home/.config/textzone/textzone.ini"));
     // Neither: no file, and so no settings object.
-    ::unsetenv("HOME");
+    m_env.Set("HOME", nullptr);
     EXPECT_EQ(CQtAppDataManager::DefaultFilePath(), "");
     EXPECT_EQ(CQtAppDataManager().GetSettings(), nullptr);
 
     // The one call of a host: the store on the user's file, installed.
-    ::setenv("HOME", Path("home").c_str(), 1);
-    ::setenv("XDG_CONFIG_HOME", Path("config").c_str(), 1);
-    ::setenv("XDG_DATA_HOME", Path("data").c_str(), 1);
+    m_env.Set("HOME", Path("home").c_str());
+    m_env.Set("XDG_CONFIG_HOME", Path("config").c_str());
+    m_env.Set("XDG_DATA_HOME", Path("data").c_str());
     CQtAppDataManager& installed = CQtAppDataManager::InstallForProcess();
     EXPECT_EQ(AppDataManager::LoadAppDataManager(), &installed);
     WriteSettingInt("Editor", "TabSize", 2);

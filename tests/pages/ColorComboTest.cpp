@@ -8,7 +8,17 @@
 
 namespace {
 
-using ColorComboTest = PagesTest;
+class ColorComboTest : public PagesTest {
+protected:
+    // The option page's colour combo, in a sheet.
+    CColorComboBox2& Combo() {
+        m_sheet.AddPage(&m_page);
+        m_sheet.Create();
+        return m_page.m_comboColor;
+    }
+    CEditorOptionPage m_page;
+    CPropertySheet m_sheet;
+};
 
 DWORD Key(int h, int l, int s) {
     return static_cast<DWORD>(h) | static_cast<DWORD>(l) << 8 | static_cast<DWORD>(s) << 16;
@@ -33,11 +43,7 @@ TEST_F(ColorComboTest, SortKeyIsHueLuminanceSaturation) {
 }
 
 TEST_F(ColorComboTest, ItemsSortByTheirKeyWithDefaultAmongTheBlacks) {
-    CEditorOptionPage page;
-    CPropertySheet sheet;
-    sheet.AddPage(&page);
-    sheet.Create();
-    CColorComboBox2& combo = page.m_comboColor;
+    CColorComboBox2& combo = Combo();
     ASSERT_EQ(combo.GetCount(), 21);
     // Black and "Default" share the key of black; the later one goes after.
     const DWORD_PTR first[] = {0, static_cast<DWORD_PTR>(-1), 12, 7, 19};
@@ -49,11 +55,7 @@ TEST_F(ColorComboTest, ItemsSortByTheirKeyWithDefaultAmongTheBlacks) {
 }
 
 TEST_F(ColorComboTest, SelectsByNearestPaletteEntryAndReadsBack) {
-    CEditorOptionPage page;
-    CPropertySheet sheet;
-    sheet.AddPage(&page);
-    sheet.Create();
-    CColorComboBox2& combo = page.m_comboColor;
+    CColorComboBox2& combo = Combo();
     combo.SelectColor(RGB(250, 10, 5));
     EXPECT_EQ(combo.GetSelectedColor(), RGB(255, 0, 0));
     combo.SelectColor(RGB(0xD0, 0xD0, 0xD0));
@@ -64,26 +66,19 @@ TEST_F(ColorComboTest, SelectsByNearestPaletteEntryAndReadsBack) {
     combo.SetCurSel(-1);
     EXPECT_EQ(combo.GetSelectedColor(), static_cast<COLORREF>(-1));
     // A combo without "Default" keeps its selection when asked for -1.
-    page.m_comboMargin.SelectColor(RGB(255, 255, 0));
-    page.m_comboMargin.SelectColor(static_cast<COLORREF>(-1));
-    EXPECT_EQ(page.m_comboMargin.GetSelectedColor(), RGB(255, 255, 0));
+    m_page.m_comboMargin.SelectColor(RGB(255, 255, 0));
+    m_page.m_comboMargin.SelectColor(static_cast<COLORREF>(-1));
+    EXPECT_EQ(m_page.m_comboMargin.GetSelectedColor(), RGB(255, 255, 0));
 }
 
 TEST_F(ColorComboTest, DrawsASwatchAndDefaultAsText) {
-    CEditorOptionPage page;
-    CPropertySheet sheet;
-    sheet.AddPage(&page);
-    sheet.Create();
-    CColorComboBox2& combo = page.m_comboColor;
+    CColorComboBox2& combo = Combo();
     DisplayList list;
     CHeadlessDC dc(&list, CRgn(RECT{0, 0, 200, 100}), false);
     const RECT rc = {0, 0, 80, 20};
 
-    int nRed = -1, nDefault = -1;
-    for (int i = 0; i < combo.GetCount(); ++i) {
-        if (combo.GetItemData(i) == 13) nRed = i;
-        if (combo.GetItemData(i) == static_cast<DWORD_PTR>(-1)) nDefault = i;
-    }
+    const int nRed = IndexOfData(combo, 13);
+    const int nDefault = IndexOfData(combo, static_cast<DWORD_PTR>(-1));
     // The focus rectangle, then the swatch 2 pixels in: its inside in the
     // colour, its outline (four edges) in the pen's black.
     combo.DrawItemInto(&dc, nRed, rc, true);

@@ -40,8 +40,7 @@ protected:
 TEST_F(EditorsReloadTest, OptionsFontAndShortcutsReachAnOpenEditor) {
     auto& options = Page<CEditorOptionPage>(0);
     dynamic_cast<CEdit*>(options.GetDlgItem(1017))->UserSetText("7");
-    for (int i = 0; i < options.m_comboColor.GetCount(); ++i)
-        if (options.m_comboColor.GetItemData(i) == 16) options.m_comboColor.UserSelect(i);  // blue
+    options.m_comboColor.UserSelect(IndexOfData(options.m_comboColor, 16));  // blue
     ASSERT_TRUE(m_sheet.PressApply());
     EXPECT_EQ(std::abs(Zone().GetTabWidth()), 7);
     EXPECT_EQ(Zone().GetSyntaxColor(SC_COMMENT), RGB(0, 0, 255));

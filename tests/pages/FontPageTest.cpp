@@ -28,20 +28,12 @@ protected:
     static int Index(const CListBox& list, const char* psz) {
         return list.FindStringExact(-1, psz);
     }
-    static int IndexOfData(const CComboBox& combo, DWORD_PTR dwData) {
-        for (int i = 0; i < combo.GetCount(); ++i)
-            if (combo.GetItemData(i) == dwData) return i;
-        return -1;
-    }
 
     CPropertySheet m_sheet{"Options"};
 };
 
 TEST_F(FontPageTest, OpensOnTheStoredFontWithFixedPitchFacesOnly) {
     CEditorFontPage& page = Open();
-    EXPECT_EQ(page.m_strFontName, "Courier New");
-    EXPECT_EQ(page.m_nFontSize, 14);
-    EXPECT_EQ(page.m_crNorText, static_cast<COLORREF>(-1));
     EXPECT_EQ(Button(1046).GetCheck(), 1);
     EXPECT_EQ(Button(1045).GetCheck(), 0);
     EXPECT_TRUE(Lists(page.m_listFont, "Courier New"));

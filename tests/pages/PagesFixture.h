@@ -4,16 +4,17 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <filesystem>
 #include <string>
 #include <vector>
 
 #include "host/MemoryAppDataManager.h"
+#include "platform/ComboBox.h"
 #include "platform/Messages.h"
 #include "platform/Platform.h"
 #include "platform/PropertySheet.h"
 #include "support/HeadlessTest.h"
+#include "support/TestFiles.h"
 
 class PagesTest : public HeadlessTest {
 protected:
@@ -31,27 +32,18 @@ protected:
         std::filesystem::remove_all(m_dir, ec);
         HeadlessTest::TearDown();
     }
+    // The row of a combo that holds the data, -1 for none.
+    static int IndexOfData(const CComboBox& combo, DWORD_PTR dwData) {
+        for (int i = 0; i < combo.GetCount(); ++i)
+            if (combo.GetItemData(i) == dwData) return i;
+        return -1;
+    }
     int ReloadsHeard() const { return m_wnd.Count(RegisterWindowMessageA("EditExLoadIniMessage")); }
     // The writes since the last call, as "section/key=value".
     std::vector<std::string> TakeWrites() {
         std::vector<std::string> writes = m_store.GetWriteLog();
         m_store.ClearWriteLog();
         return writes;
-    }
-    std::string ReadFile(const std::string& path) {
-        std::string bytes;
-        if (std::FILE* f = std::fopen(path.c_str(), "rb")) {
-            for (int c; (c = std::fgetc(f)) != EOF;)
-                bytes.push_back(static_cast<char>(c));
-            std::fclose(f);
-        }
-        return bytes;
-    }
-    void WriteFile(const std::string& path, const std::string& bytes) {
-        std::FILE* f = std::fopen(path.c_str(), "wb");
-        ASSERT_NE(f, nullptr);
-        std::fwrite(bytes.data(), 1, bytes.size(), f);
-        std::fclose(f);
     }
 
     CMemoryAppDataManager m_store;

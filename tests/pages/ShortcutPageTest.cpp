@@ -30,8 +30,8 @@ protected:
 };
 
 TEST_F(ShortcutPageTest, ListsTheFileByTheZonesLineRulesButKeepsEmptyParts) {
-    WriteFile(File(),
-              "sel\tSELECT * FROM\r\nnotab\r\n\tempty key\r\nins\tINSERT INTO\tt\nupd\t\r\n");
+    ASSERT_TRUE(WriteFileBytes(
+        File(), "sel\tSELECT * FROM\r\nnotab\r\n\tempty key\r\nins\tINSERT INTO\tt\nupd\t\r\n"));
     Open();
     EXPECT_EQ(Rows(), (std::vector<std::string>{"sel\tSELECT * FROM", "\tempty key",
                                                 "ins\tINSERT INTO\tt", "upd\t"}));
@@ -45,7 +45,7 @@ TEST_F(ShortcutPageTest, AMissingFileShowsAnEmptyList) {
 }
 
 TEST_F(ShortcutPageTest, SetAddsChangesAndMovesOnDeleteRemoves) {
-    WriteFile(File(), "a\tone\r\nb\ttwo\r\n");
+    ASSERT_TRUE(WriteFileBytes(File(), "a\tone\r\nb\ttwo\r\n"));
     Open();
     // Nothing selected: added, fields emptied; trailing blanks are cut.
     Set("c  ", "three  ");
@@ -82,13 +82,13 @@ TEST_F(ShortcutPageTest, SetAddsChangesAndMovesOnDeleteRemoves) {
 }
 
 TEST_F(ShortcutPageTest, OkRewritesTheFileWithCrLfAndAZoneReadsIt) {
-    WriteFile(File(), "sel\tSELECT\nnotab\n\tempty key\n");
+    ASSERT_TRUE(WriteFileBytes(File(), "sel\tSELECT\nnotab\n\tempty key\n"));
     Open();
     Set("ins", "INSERT INTO");
     const int nHeard = ReloadsHeard();
     TakeWrites();
     ASSERT_TRUE(m_sheet.PressOK());
-    EXPECT_EQ(ReadFile(File()), "sel\tSELECT\r\n\tempty key\r\nins\tINSERT INTO\r\n");
+    EXPECT_EQ(ReadFileBytes(File()), "sel\tSELECT\r\n\tempty key\r\nins\tINSERT INTO\r\n");
     EXPECT_EQ(TakeWrites(), (std::vector<std::string>{"Editor_Shortcuts/EnableShortcuts=1"}));
     EXPECT_EQ(ReloadsHeard(), nHeard + 1);
 
@@ -108,7 +108,7 @@ TEST_F(ShortcutPageTest, UncheckingRemovesTheKeyAndAMissingDirectoryIsMade) {
     TakeWrites();
     ASSERT_TRUE(m_sheet.PressOK());
     EXPECT_EQ(TakeWrites(), (std::vector<std::string>{"Editor/EnableShortcuts"}));
-    EXPECT_EQ(ReadFile(m_dir + "/new/ed_short.txt"), "k\ttext\r\n");
+    EXPECT_EQ(ReadFileBytes(m_dir + "/new/ed_short.txt"), "k\ttext\r\n");
 }
 
 TEST_F(ShortcutPageTest, WithoutADataDirectoryNothingIsWrittenAndTheEditorsStillHear) {

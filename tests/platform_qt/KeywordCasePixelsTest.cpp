@@ -7,15 +7,6 @@
 #include "editor/qt/QtEditorWidget.h"
 #include "zones/TextZoneParam.h"
 
-namespace {
-
-void Pump() {
-    for (int i = 0; i < 5; ++i)
-        QApplication::processEvents();
-}
-
-}  // namespace
-
 TEST(KeywordCasePixelsTest, TypedSelectShowsInUpperCase) {
     CQtPlatform platform;
     CTextZoneParam zone;
@@ -29,7 +20,7 @@ TEST(KeywordCasePixelsTest, TypedSelectShowsInUpperCase) {
         QWidget* pWindow = CQtPlatform::WidgetOf(&editor.Editor());
         const int top = zone.m_rcText.top;
         auto band = [&] {
-            Pump();
+            QtFixture::Pump();
             return static_cast<CQtWindowWidget*>(pWindow)->Image().copy(
                 0, top, pWindow->width(), zone.m_nLineHeight);
         };

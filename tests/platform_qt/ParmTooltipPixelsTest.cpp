@@ -30,15 +30,7 @@ protected:
     void SetUp() override {
         ASSERT_TRUE(m_wnd.Create(WS_VISIBLE, RECT{10, 20, 410, 320}, nullptr, 0));
         ASSERT_TRUE(QTest::qWaitForWindowExposed(CQtPlatform::WidgetOf(&m_wnd)));
-        LOGFONTA lf{};
-        lf.lfHeight = -14;
-        lf.lfPitchAndFamily = FIXED_PITCH;
-        m_font.CreateFontIndirect(&lf);
-        m_wnd.m_zone.SetWindow(&m_wnd);
-        RECT rc;
-        m_wnd.GetClientRect(&rc);
-        m_wnd.m_zone.SetRect(&rc);
-        m_wnd.m_zone.SetFont(m_font);
+        QtFixture::PutZoneInWindow(m_wnd.m_zone, m_wnd, m_font);
         m_wnd.m_zone.SetParmCompletionMode(1);
         m_wnd.SetFocus();
     }
@@ -50,8 +42,7 @@ protected:
     void Type(const char* psz) {
         for (; *psz; ++psz)
             m_wnd.m_zone.HandleChar(static_cast<unsigned char>(*psz), 1, 0);
-        for (int i = 0; i < 3; ++i)
-            QCoreApplication::processEvents();
+        QtFixture::Pump();
     }
     // Dark pixels in the left and the right half of the tooltip's face.
     static std::pair<int, int> Ink(const QImage& image) {

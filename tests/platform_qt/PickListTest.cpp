@@ -14,6 +14,7 @@
 #include "colour/TextZoneColor.h"
 #include "completion/CompletionList.h"
 #include "editor/qt/QtEditorWidget.h"
+#include "QtFixture.h"
 #include "platform/qt/QtPlatform.h"
 
 namespace {
@@ -41,10 +42,7 @@ protected:
         m_pWindow = CQtPlatform::WidgetOf(&m_editor.Editor());
         Pump();
     }
-    static void Pump() {
-        for (int i = 0; i < 3; ++i)
-            QCoreApplication::processEvents();
-    }
+    static void Pump() { QtFixture::Pump(); }
 
     // Ctrl+Space with the Ctrl key of the native code (37 left, 105 right);
     // keys are typed into the list once it is up, and what was seen of it

@@ -30,16 +30,7 @@ protected:
         ASSERT_TRUE(m_wnd.Create(WS_VISIBLE | WS_HSCROLL | WS_VSCROLL, RECT{10, 20, 410, 320},
                                  nullptr, 0));
         ASSERT_TRUE(QTest::qWaitForWindowExposed(Widget()));
-        LOGFONTA lf{};
-        lf.lfHeight = -14;
-        lf.lfPitchAndFamily = FIXED_PITCH;
-        m_font.CreateFontIndirect(&lf);
-        Zone().SetWindow(&m_wnd);
-        RECT rc;
-        m_wnd.GetClientRect(&rc);
-        Zone().SetRect(&rc);
-        Zone().SetFont(m_font);
-        Zone().SetTabWidth(-4);
+        QtFixture::PutZoneInWindow(Zone(), m_wnd, m_font);
     }
     void TearDown() override {
         Zone().HideCaret();
@@ -52,8 +43,7 @@ protected:
     // Paints what is pending and gives the window's image.
     QImage Painted() {
         m_wnd.UpdateWindow();
-        for (int i = 0; i < 3; ++i)
-            QCoreApplication::processEvents();
+        QtFixture::Pump();
         return Widget()->Image().copy();
     }
     QImage Repainted() {

@@ -5,24 +5,18 @@
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <fstream>
-#include <iterator>
 #include <regex>
 
 #include "apps/common/LanguageChoice.h"
 #include "apps/render/FileRenderer.h"
 #include "platform/qt/QtPlatform.h"
+#include "support/TestFiles.h"
 
 namespace {
 
 constexpr QRgb kKeyword = qRgb(0, 0, 255);  // the default colours of the classes
 constexpr QRgb kComment = qRgb(0, 128, 0);
 constexpr QRgb kString = qRgb(255, 0, 255);
-
-std::string ReadFile(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return std::string((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-}
 
 int Count(const std::string& text, const std::string& part) {
     int n = 0;
@@ -83,7 +77,7 @@ TEST(LanguageChoiceTest, ExtensionsIdsAndDialectsChooseTheColouring) {
 class RenderTest : public ::testing::Test {
 protected:
     CQtPlatform m_platform;
-    const std::string m_sample = ReadFile(TEXTZONE_SAMPLES "/sample.sql");
+    const std::string m_sample = ReadFileBytes(TEXTZONE_SAMPLES "/sample.sql");
 };
 
 TEST_F(RenderTest, HtmlHoldsTheTextWithASpanPerRun) {

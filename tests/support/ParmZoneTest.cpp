@@ -1,7 +1,7 @@
 #include "support/ParmZoneTest.h"
 
 #include "platform/Messages.h"
-#include "platform/headless/HeadlessFonts.h"
+#include "support/ZoneWindow.h"
 
 void CParmTestZone::OnNewParmCompletionRequest(int nKind, char const* pName) {
     m_requests.push_back(std::to_string(nKind) + " " + pName);
@@ -22,13 +22,7 @@ LRESULT CParmZoneWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 void ParmZoneTest::SetUp() {
     ASSERT_TRUE(m_wnd.Create(WS_VISIBLE, RECT{10, 20, 410, 320}, nullptr, 1));
     m_wnd.m_pZone = &m_zone;
-    LOGFONTA lf = CHeadlessFonts::MakeFont(CHeadlessFonts::kFixedFace, 16);
-    m_font.CreateFontIndirect(&lf);
-    m_zone.SetWindow(&m_wnd);
-    RECT client;
-    m_wnd.GetClientRect(&client);
-    m_zone.SetRect(&client);
-    m_zone.SetFont(m_font);
+    PutZoneInWindow(m_zone, m_wnd, m_font);
     UseC();
 }
 

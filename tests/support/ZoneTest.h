@@ -28,6 +28,15 @@ public:
     using CTextZone::ReleaseStandardDC;
 };
 
+// A fixed-pitch font of 16 pixels, 8 a byte.
+void CreateFixedFont(CFont& font);
+// Puts a zone in a window: its text rectangle the client area, the font selected.
+void AttachZone(CTextZone& zone, CWnd& wnd, CFont& font);
+// nLines lines "<prefix>0", "<prefix>1", ... each ended by pszEnd.
+std::string Numbered(int nLines, const std::string& prefix = "line ", const char* pszEnd = "\r\n");
+// "left,top,right,bottom"
+std::string Box(const RECT& rc);
+
 class ZoneTest : public HeadlessTest {
 protected:
     void SetUp() override;
@@ -38,6 +47,12 @@ protected:
     // The raw bytes of a line, terminator included; "<none>" for no line.
     std::string Line(int nLine);
     void ExpectCaret(int nLine, int nChar);
+    void ExpectSelection(int nStartLine, int nStartChar, int nEndLine, int nEndChar);
+    // Gives another zone the fixture's window, rectangle and font.
+    void Attach(CTextZone& zone);
+    // One undo step as the editing commands record it: an insertion of the
+    // text at the selection, or without a text a deletion of the selection.
+    void Edit(short wKind, const char* pszText = nullptr);
 
     CFont m_font;
     CTestZone m_zone;

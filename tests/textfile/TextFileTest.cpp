@@ -7,8 +7,9 @@
 #include <string>
 
 #include "apps/demo/TextFile.h"
-#include "zones/TextZoneParam.h"
 #include "support/ZoneTest.h"
+#include "support/ZoneWindow.h"
+#include "zones/TextZoneParam.h"
 
 namespace {
 
@@ -35,13 +36,6 @@ protected:
     std::string RoundTrip(const std::string& bytes) {
         CTextFile file(bytes);
         return RoundTrip(m_zone, file);
-    }
-    void Prepare(CTextZone& zone) {
-        zone.SetWindow(&m_wnd);
-        RECT client;
-        m_wnd.GetClientRect(&client);
-        zone.SetRect(&client);
-        zone.SetFont(m_font);
     }
     // A line of text: no line end and no 0, but tabs, blanks and high bytes.
     std::string RandomLine(int nMax) {
@@ -212,7 +206,7 @@ TEST_F(TextFileTest, TheLineLimitIsSaidWhereTheZoneStops) {
     // Through a zone whose limit lies five lines away: the analysis must say
     // exactly when the zone drops text.
     CCrowdedZone zone;
-    Prepare(zone);
+    PutZoneInWindow(zone, m_wnd, m_font);
     zone.m_nPretended = TZ_MAX_LINES - 5;
     CTextFile::SLimits limits;
     limits.maxLines = 5;
@@ -254,7 +248,7 @@ TEST_F(TextFileTest, AZoneThatChangesTheTextOnLoadingIsNoticed) {
 // user types: loading converts nothing, so files still come back whole.
 TEST_F(TextFileTest, TheEditorsZoneGivesBackWhatItLoaded) {
     CTextZoneParam zone;
-    Prepare(zone);
+    PutZoneInWindow(zone, m_wnd, m_font);
     zone.SetSQLSyntaxColor(150);
     zone.SetKeywordMode(1, 0);
     for (int e = 0; e < 3; ++e) {

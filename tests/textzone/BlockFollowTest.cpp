@@ -8,12 +8,7 @@ namespace {
 
 class BlockFollowTest : public ZoneTest {
 protected:
-    void SetLines(int n) {
-        std::string text;
-        for (int i = 0; i < n; ++i)
-            text += "line" + std::to_string(i) + "\r\n";
-        ASSERT_TRUE(m_zone.SetText(text.c_str()));
-    }
+    void SetLines(int n) { ASSERT_TRUE(m_zone.SetText(Numbered(n).c_str())); }
     // One letter a line: h hidden, c head of a closed block, o of an open one.
     std::string Shape() {
         std::string s;

@@ -28,12 +28,7 @@ const CEditBlk* Found(BlockList& list, BlockList::iterator it) {
 
 class BlockIndexTest : public ZoneTest {
 protected:
-    void SetLines(int nLines) {
-        std::string text;
-        for (int i = 0; i < nLines; ++i)
-            text += "line " + std::to_string(i) + "\r\n";
-        ASSERT_TRUE(m_zone.SetText(text.c_str()));
-    }
+    void SetLines(int nLines) { ASSERT_TRUE(m_zone.SetText(Numbered(nLines).c_str())); }
 
     int Random(int nLow, int nHigh) {
         return std::uniform_int_distribution<int>(nLow, nHigh)(m_random);

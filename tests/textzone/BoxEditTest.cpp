@@ -104,13 +104,8 @@ TEST_F(BoxEditTest, InsertedBoxReadsBackAndDeletesToTheSameText) {
     m_zone.InsertText("x1\r\nx2\r\nx3\r\n", 1, 1, 1);
     EXPECT_EQ(Text(), "SELECT x1a,\r\n       x2bb,\r\n       x3ccc\r\nFROM t\r\n");
     // Kept selected: the box reads back as the text that went in.
-    EXPECT_EQ(m_zone.m_nSelStartLine, 0);
-    EXPECT_EQ(m_zone.m_nSelEndLine, 2);
-    EXPECT_EQ(m_zone.m_nSelStartChar, 7);
-    EXPECT_EQ(m_zone.m_nSelEndChar, 9);
-    char buffer[64];
-    m_zone.GetSelectedText(buffer, sizeof buffer, TF_CRLF);
-    EXPECT_STREQ(buffer, "x1\r\nx2\r\nx3\r\n");
+    ExpectSelection(0, 7, 2, 9);
+    EXPECT_EQ(m_zone.GetSelectedTextString(TF_CRLF), "x1\r\nx2\r\nx3\r\n");
     m_zone.DeleteSelection(1);
     EXPECT_EQ(Text(), original);
 }
@@ -119,10 +114,7 @@ TEST_F(BoxEditTest, BoxEditsUndoAndRedoAsOneStepEach) {
     const char* original = "abcdef\r\na\tb\r\nxy\r\n";
     Load(original);
     m_zone.SetSelection(0, 0, 2, 2, 0, 0);
-    m_zone.SetModify(1);
-    m_zone.StartRegister(6);
-    m_zone.InsertText("12\r\n34\r\n56", 0, 1, 1);
-    m_zone.EndRegister();
+    Edit(TZ_EDIT_PASTE, "12\r\n34\r\n56");
     const std::string inserted = Text();
     EXPECT_EQ(inserted, "ab12cdef\r\na 34\tb\r\nxy56\r\n");
 
@@ -132,22 +124,22 @@ TEST_F(BoxEditTest, BoxEditsUndoAndRedoAsOneStepEach) {
     m_zone.Redo();
     EXPECT_EQ(Text(), inserted);
 
-    // A box deletion through a tab comes back with the tab.
+    // A box deletion through a tab comes back with the tab, the line's
+    // bookmarks and the box, its root where it was.
     Load(original);
-    m_zone.SetSelection(0, 1, 1, 3, 2, 0);
-    m_zone.StartRegister(4);
-    m_zone.DeleteSelection(1);
-    m_zone.EndRegister();
+    m_zone.GetLine(1)->m_dwBookmarks = 8;
+    m_zone.SetSelection(0, 1, 1, 3, TZ_SEL_BOX, 0);
+    Edit(TZ_EDIT_DELETE_SELECTION);
     EXPECT_EQ(Text(), "adef\r\na b\r\nxy\r\n");
     m_zone.Undo();
     EXPECT_EQ(Text(), original);
-    EXPECT_EQ(m_zone.GetSelectionMode(), 2);
-    EXPECT_EQ(m_zone.m_nSelStartLine, 0);
-    EXPECT_EQ(m_zone.m_nSelEndLine, 1);
-    EXPECT_EQ(m_zone.m_nSelStartChar, 1);
-    EXPECT_EQ(m_zone.m_nSelEndChar, 3);
+    EXPECT_EQ(m_zone.GetSelectionMode(), TZ_SEL_BOX);
+    ExpectSelection(0, 1, 1, 3);
+    EXPECT_EQ(m_zone.GetSelRootChar(), 1);
+    EXPECT_EQ(m_zone.GetLine(1)->m_dwBookmarks, 8u);
     m_zone.Redo();
     EXPECT_EQ(Text(), "adef\r\na b\r\nxy\r\n");
+    ExpectCaret(0, 1);
 }
 
 TEST_F(BoxEditTest, ATabAcrossTheColumnStaysWholeAndBlanksGoInFrontOfIt) {

@@ -11,11 +11,6 @@ namespace {
 using Ints = std::vector<int>;
 using Strings = std::vector<std::string>;
 
-std::string Box(const RECT& rc) {
-    return std::to_string(rc.left) + "," + std::to_string(rc.top) + "," +
-           std::to_string(rc.right) + "," + std::to_string(rc.bottom);
-}
-
 struct ScrollStep {
     UINT nCode;
     UINT nPos;
@@ -27,10 +22,8 @@ class CaretScrollTest : public ZoneTest {
 protected:
     // nLines lines "line N", the last one without a line end, seen from the top.
     void Load(int nLines, const std::string& prefix = "line ") {
-        std::string text;
-        for (int i = 0; i < nLines; ++i)
-            text += prefix + std::to_string(i) + (i + 1 < nLines ? "\r\n" : "");
-        ASSERT_TRUE(m_zone.SetText(text.c_str()));
+        const std::string text = Numbered(nLines, prefix);
+        ASSERT_TRUE(m_zone.SetText(text.substr(0, text.size() - 2).c_str()));
         m_zone.SetFirstVisiblePosition(0, 0);
     }
     void Caret(int nLine, int nChar) { m_zone.SetSelection(nLine, nLine, nChar, nChar, 0, 1); }

@@ -107,9 +107,7 @@ TEST_F(ClipboardTest, PasteOnABoxCaretGoesOnEveryLineUnlessItIsABoxItself) {
     EXPECT_EQ(m_zone.Paste(), 1);
     // The short line is padded; the caret stays a box caret behind what went in.
     EXPECT_EQ(Text(), "abcXYd\r\nab XY    \r\nabcXYd\r\nabcd\r\n");
-    EXPECT_EQ(m_zone.m_nSelEndLine, 2);
-    EXPECT_EQ(m_zone.m_nSelStartChar, 5);
-    EXPECT_EQ(m_zone.m_nSelEndChar, 5);
+    ExpectSelection(0, 5, 2, 5);
     EXPECT_EQ(m_zone.GetUndoType(), 1);
     m_zone.Undo();
 
@@ -150,10 +148,8 @@ TEST_F(ClipboardTest, PasteBeyondTheMaximumLengthBeeps) {
 }
 
 TEST_F(ClipboardTest, ACopyOfManyLinesTakesEveryLineEndWhole) {
-    std::string text, expected;
-    for (int i = 0; i < 20; ++i) text += "line " + std::to_string(i) + "\r";
-    ASSERT_TRUE(m_zone.SetText(text.c_str()));
-    for (int i = 0; i < 20; ++i) expected += "line " + std::to_string(i) + "\r\n";
+    const std::string expected = Numbered(20);
+    ASSERT_TRUE(m_zone.SetText(Numbered(20, "line ", "\r").c_str()));
     EXPECT_EQ(CopyOf(0, 20, 0, 0, 0), expected);  // line mode: the last line end too
     EXPECT_EQ(CopyOf(0, 19, 0, 7, 0), expected.substr(0, expected.size() - 2));
 }

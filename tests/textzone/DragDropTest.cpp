@@ -3,8 +3,7 @@
 
 #include "editor/Editor.h"
 #include "platform/Font.h"
-#include "platform/headless/HeadlessFonts.h"
-#include "support/HeadlessTest.h"
+#include "support/ZoneTest.h"
 #include "textzone/TextZone.h"
 
 namespace {
@@ -25,8 +24,7 @@ class DragDropTest : public HeadlessTest {
 protected:
     void SetUp() override {
         HeadlessTest::SetUp();
-        LOGFONTA lf = CHeadlessFonts::MakeFont(CHeadlessFonts::kFixedFace, 16);
-        m_font.CreateFontIndirect(&lf);
+        CreateFixedFont(m_font);
         m_parent.m_hFont = m_font;
         ASSERT_TRUE(m_parent.Create(WS_VISIBLE, RECT{0, 0, 900, 400}, nullptr, 0));
         for (CEditor* editor : {&m_a, &m_b}) {

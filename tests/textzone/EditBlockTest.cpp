@@ -20,13 +20,7 @@ using Extents = std::vector<std::pair<int, int>>;
 class EditBlockTest : public ZoneTest {
 protected:
     // A text of nLines lines "0", "1", ... each ended.
-    static std::string Numbered(int nLines, const char* pszIndent = "") {
-        std::string text;
-        for (int i = 0; i < nLines; ++i)
-            text += pszIndent + std::to_string(i) + "\r\n";
-        return text;
-    }
-    void SetLines(int nLines) { ASSERT_TRUE(m_zone.SetText(Numbered(nLines).c_str())); }
+    void SetLines(int nLines) { ASSERT_TRUE(m_zone.SetText(Numbered(nLines, "").c_str())); }
     void Close(std::initializer_list<int> heads) {
         for (int n : heads)
             m_zone.CloseBlock(n, 0);
@@ -182,7 +176,7 @@ TEST_F(EditBlockTest, RescanKeepsGrowsShrinksAndDropsClosedBlocks) {
 TEST_F(EditBlockTest, RescanInputRules) {
     CRedrawRecordingZone zone;
     zone.SetWindow(&m_wnd);
-    ASSERT_TRUE(zone.SetText(Numbered(6).c_str()));
+    ASSERT_TRUE(zone.SetText(Numbered(6, "").c_str()));
     zone.m_redraws.clear();
 
     zone.BeginEditBlockInput();

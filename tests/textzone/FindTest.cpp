@@ -9,12 +9,6 @@ class FindTest : public ZoneTest {
 protected:
     void Select(int l0, int c0, int l1, int c1) { m_zone.SetSelection(l0, l1, c0, c1, 0, 0); }
     void Caret(int nLine, int nChar) { Select(nLine, nChar, nLine, nChar); }
-    void ExpectSelection(int l0, int c0, int l1, int c1) {
-        EXPECT_EQ(m_zone.m_nSelStartLine, l0);
-        EXPECT_EQ(m_zone.m_nSelStartChar, c0);
-        EXPECT_EQ(m_zone.m_nSelEndLine, l1);
-        EXPECT_EQ(m_zone.m_nSelEndChar, c1);
-    }
     // One search and the selection it leaves; a miss leaves a caret.
     struct Step {
         const char* psz;

@@ -51,8 +51,7 @@ TEST_F(HostileInputTest, BoxEditsEndWhereNoByteBoundaryMeetsTheEdge) {
 TEST_F(HostileInputTest, FarOutPlacesAreHeldWhereTheyComeIn) {
     ASSERT_TRUE(m_zone.SetText("abc\r\ndef\r\n"));
     m_zone.SetSelection(0, 1, INT_MIN, INT_MAX, 0, 0);
-    EXPECT_EQ(m_zone.m_nSelStartChar, 0);
-    EXPECT_EQ(m_zone.m_nSelEndChar, TZ_MAX_PLACE);
+    ExpectSelection(0, 0, 1, TZ_MAX_PLACE);
     m_zone.DeleteSelection(1);  // a stream ending far out
     EXPECT_EQ(Text(), "\r\n");
 
@@ -88,15 +87,15 @@ TEST_F(HostileInputTest, EveryBookmarkBitSurvivesTheLineInfoCarrier) {
         std::unique_ptr<char[]> info(from.GetSpecificInfo());
         to.SetSpecificInfo(info.get());
         EXPECT_EQ(to.m_dwBookmarks, from.m_dwBookmarks) << "bit " << bit;
+        to.SetSpecificInfo(nullptr);
+        EXPECT_EQ(to.m_dwBookmarks, 0u);
     }
     // And through an edit and its undo, which keep the lines' info as text.
     ASSERT_TRUE(m_zone.SetText("ab\r\ncd\r\n"));
     m_zone.SetLineBookmark(1, 31, 1);
     m_zone.SetLineBookmark(1, 30, 1);
     m_zone.SetSelection(0, 1, 1, 1, 0, 0);
-    m_zone.StartRegister(4);
-    m_zone.DeleteSelection(0);
-    m_zone.EndRegister();
+    Edit(TZ_EDIT_DELETE_SELECTION);
     m_zone.Undo();
     EXPECT_EQ(m_zone.GetLine(1)->m_dwBookmarks, 0xC0000000u);
 }

@@ -32,9 +32,7 @@ TEST_F(InsertDeleteTest, SelectLeavesTheInsertedTextSelected) {
     ASSERT_TRUE(m_zone.SetText("abcdef"));
     Select(0, 3, 0, 3);
     Insert("X\nYZ", 1);
-    char buffer[32];
-    m_zone.GetSelectedText(buffer, sizeof buffer, TF_CRLF);
-    EXPECT_STREQ(buffer, "X\r\nYZ");
+    EXPECT_EQ(m_zone.GetSelectedTextString(TF_CRLF), "X\r\nYZ");
 
     // Null and empty texts only take the selection away.
     for (const char* psz : {"", static_cast<const char*>(nullptr)}) {
@@ -180,11 +178,7 @@ TEST_F(InsertDeleteTest, LineModeNeitherInsertsNorDeletes) {
 
 TEST_F(InsertDeleteTest, TheLineLimitStopsTheInsertion) {
     CCrowdedZone zone;
-    zone.SetWindow(&m_wnd);
-    RECT client;
-    m_wnd.GetClientRect(&client);
-    zone.SetRect(&client);
-    zone.SetFont(m_font);
+    Attach(zone);
     auto line = [&](int n) {
         return std::string(zone.GetLine(n) ? zone.GetLine(n)->c_str() : "-");
     };

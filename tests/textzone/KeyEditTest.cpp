@@ -278,18 +278,31 @@ TEST_F(KeyEditTest, BackspaceAndDeleteWithinAndAtTheEdgesOfTheText) {
     m_zone.SetText("abc");
     Caret(0, 2);
     Press(VK_BACK);
+    m_zone.Undo();
+    ExpectSelection(0, 1, 0, 2);  // the byte comes back selected
+    m_zone.Redo();
     ExpectUndoRedo("abc", "ac");
     Caret(0, 0);
     Press(VK_DELETE);
     Press(VK_BACK);  // at the start of the text
+    Caret(0, 1);
+    Press(VK_DELETE);  // at the end of an unended last line
     EXPECT_EQ(CrText(), "c");
+    // Neither took anything, so neither gives anything back.
+    while (m_zone.GetUndoType() != 0)
+        m_zone.Undo();
+    EXPECT_EQ(CrText(), "abc");
+    m_zone.SetText("c");
+    Caret(0, 0);
     Press(VK_DELETE);
     EXPECT_EQ(m_zone.GetLineCount(), 0);  // an empty text has no line
 
-    // Behind the last line end, Backspace takes that line end.
+    // Behind the last line end, Delete has nothing to take and Backspace
+    // takes that line end.
     m_zone.SetText("ab\r");
     Caret(1, 0);
     Press(VK_DELETE);
+    EXPECT_EQ(m_zone.GetUndoType(), 0);
     Press(VK_BACK);
     ExpectCaret(0, 2);
     ExpectUndoRedo("ab\r", "ab");

@@ -50,22 +50,6 @@ protected:
         }
     }
 
-    // Gives another zone the fixture's window, rectangle and font.
-    void Attach(CTestZone& zone) {
-        zone.SetWindow(&m_wnd);
-        RECT client;
-        m_wnd.GetClientRect(&client);
-        zone.SetRect(&client);
-        zone.SetFont(m_font);
-    }
-
-    void ExpectSelection(int l0, int c0, int l1, int c1) {
-        EXPECT_EQ(m_zone.m_nSelStartLine, l0);
-        EXPECT_EQ(m_zone.m_nSelStartChar, c0);
-        EXPECT_EQ(m_zone.m_nSelEndLine, l1);
-        EXPECT_EQ(m_zone.m_nSelEndChar, c1);
-    }
-
     // CR line ends and none added, so an ended last line shows.
     std::string CrText() { return Text(TF_NO_FINAL_END); }
 

@@ -161,10 +161,7 @@ TEST_F(KeyboardTest, HomeIsSmartAndEndTakesTwoSteps) {
 
 TEST_F(KeyboardTest, PagesCountStoredLinesAndStopBehindTheText) {
     // 300 pixels of 16: 18 lines, a page of 17.
-    std::string text;
-    for (int i = 0; i < 40; ++i)
-        text += "line " + std::to_string(i) + "\r";
-    m_zone.SetText(text.c_str());
+    m_zone.SetText(Numbered(40, "line ", "\r").c_str());
     Caret(0, 4);
     ExpectMoves({{VK_NEXT, 0, 17, 4}});
     EXPECT_EQ(m_zone.GetVScrollOffset(), 17 * 16);

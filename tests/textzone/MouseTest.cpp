@@ -27,13 +27,8 @@ class MouseTest : public HeadlessTest {
 protected:
     void SetUp() override {
         HeadlessTest::SetUp();
-        LOGFONTA lf = CHeadlessFonts::MakeFont(CHeadlessFonts::kFixedFace, 16);
-        m_font.CreateFontIndirect(&lf);
-        m_zone.SetWindow(&m_wnd);
-        RECT client;
-        m_wnd.GetClientRect(&client);
-        m_zone.SetRect(&client);
-        m_zone.SetFont(m_font);
+        CreateFixedFont(m_font);
+        AttachZone(m_zone, m_wnd, m_font);
         m_platform.SetTickCount(1000);
     }
     void TearDown() override {
@@ -62,10 +57,9 @@ protected:
     }
 
     std::string Text(bool bSelected = false) {
-        LONG n = (bSelected ? m_zone.GetSelectedTextLength(TF_CRLF) : m_zone.GetTextLength(TF_CRLF)) + 8;
-        std::vector<char> buffer(static_cast<size_t>(n), 0);
-        if (bSelected) m_zone.GetSelectedText(buffer.data(), n, TF_CRLF);
-        else m_zone.GetText(buffer.data(), n, TF_CRLF);
+        if (bSelected) return m_zone.GetSelectedTextString(TF_CRLF);
+        std::vector<char> buffer(static_cast<size_t>(m_zone.GetTextLength(TF_CRLF)) + 8, 0);
+        m_zone.GetText(buffer.data(), static_cast<LONG>(buffer.size()), TF_CRLF);
         return buffer.data();
     }
     // "startLine,startChar-endLine,endChar"
@@ -74,10 +68,7 @@ protected:
                std::to_string(m_zone.m_nSelEndLine) + "," + std::to_string(m_zone.m_nSelEndChar);
     }
     void LoadNumberedLines(int nLines) {
-        std::string text;
-        for (int i = 0; i < nLines; ++i)
-            text += "line " + std::to_string(i) + "\r\n";
-        ASSERT_TRUE(m_zone.SetText(text.c_str()));
+        ASSERT_TRUE(m_zone.SetText(Numbered(nLines).c_str()));
         m_zone.SetSelection(0, 0, 0, 0, 0, 1);  // loading left the view at the end
         m_zone.m_scrolls.clear();
     }

@@ -13,11 +13,6 @@ constexpr COLORREF kSelText = RGB(0, 255, 0);
 constexpr COLORREF kSelBack = RGB(0, 0, 160);
 using Strings = std::vector<std::string>;
 
-std::string Box(const RECT& rc) {
-    return std::to_string(rc.left) + "," + std::to_string(rc.top) + "," +
-           std::to_string(rc.right) + "," + std::to_string(rc.bottom);
-}
-
 class PaintTest : public ZoneTest {
 protected:
     void SetUp() override {
@@ -191,10 +186,7 @@ TEST_F(PaintTest, MarginShowsBookmarksAsMarksOrImages) {
 }
 
 TEST_F(PaintTest, RedrawLinesInvalidatesTheirRowsAndAPaintDrawsOnlyThose) {
-    std::string text;
-    for (int i = 0; i < 50; ++i)
-        text += "line " + std::to_string(i) + "\r\n";
-    ASSERT_TRUE(m_zone.SetText(text.c_str()));
+    ASSERT_TRUE(m_zone.SetText(Numbered(50).c_str()));
     m_zone.SetFirstVisiblePosition(0, 0);  // loading left the view at the end
     m_wnd.ValidateRect(nullptr);
     auto redraw = [&](int nFirst, int nLast) {

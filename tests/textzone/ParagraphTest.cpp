@@ -248,4 +248,11 @@ TEST_F(ParagraphTest, ACaretAtTheCutGoesToTheStartOfTheNextLine) {
     m_zone.InsertText("cc ", 0, 1, 1);       // "aaaa cc bbbb": the cut falls at the caret
     EXPECT_EQ(Lines(), "[aaaa cc ][bbbb\r]");
     ExpectCaret(1, 0);
+    // The same where the overflow goes in front of the paragraph's next line.
+    ASSERT_TRUE(m_zone.SetText("aaaa bbbb cccc\r\n"));
+    ASSERT_EQ(Lines(), "[aaaa bbbb ][cccc\r]");
+    m_zone.SetSelection(0, 0, 5, 5, 0, 0);
+    m_zone.InsertText("cc ", 0, 1, 1);
+    EXPECT_EQ(Lines(), "[aaaa cc ][bbbb cccc\r]");
+    ExpectCaret(1, 0);
 }

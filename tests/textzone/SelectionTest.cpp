@@ -8,12 +8,6 @@ namespace {
 
 class SelectionTest : public ZoneTest {
 protected:
-    void ExpectSelection(int l0, int c0, int l1, int c1) {
-        EXPECT_EQ(m_zone.m_nSelStartLine, l0);
-        EXPECT_EQ(m_zone.m_nSelStartChar, c0);
-        EXPECT_EQ(m_zone.m_nSelEndLine, l1);
-        EXPECT_EQ(m_zone.m_nSelEndChar, c1);
-    }
     // Sets a selection in raw (line, char) or offset form and checks where it lands.
     struct Case {
         int a, b, c, d, l0, c0, l1, c1;
@@ -118,11 +112,7 @@ TEST_F(SelectionTest, GetSelectionInItsThreeForms) {
 
 TEST_F(SelectionTest, RedrawCoversOldAndNewLines) {
     CRedrawRecordingZone zone;
-    zone.SetWindow(&m_wnd);
-    RECT client;
-    m_wnd.GetClientRect(&client);
-    zone.SetRect(&client);
-    zone.SetFont(m_font);
+    Attach(zone);
     ASSERT_TRUE(zone.SetText("0\r\n1\r\n2\r\n3\r\n4\r\n5"));
     zone.SetSelection(1, 2, 0, 0, 0, 0);
     zone.m_redraws.clear();

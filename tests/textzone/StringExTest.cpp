@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
 
 namespace {
@@ -11,12 +10,14 @@ std::string Bytes(const VESK::String& s) {
     return std::string(s.c_str(), s.GetLength());
 }
 
+// "target|rest of the line" after moving the line's start up to the target.
 std::string Up(const char* pszTarget, const char* pszLine, int bByWord) {
     CStringEx target(pszTarget), line(pszLine);
     EXPECT_EQ(line.TransferStart(target, bByWord), 1);
     return Bytes(target) + "|" + Bytes(line);
 }
 
+// "rest of the line|target" after moving the line's end down to the target.
 std::string Down(const char* pszLine, const char* pszTarget, int bByWord) {
     CStringEx line(pszLine), target(pszTarget);
     EXPECT_EQ(line.TransferEnd(target, bByWord), 1);
@@ -26,83 +27,61 @@ std::string Down(const char* pszLine, const char* pszTarget, int bByWord) {
 }  // namespace
 
 TEST(StringEx, EndedVisibleAndFirstWordLengths) {
-    CStringEx empty;
-    CStringEx onlyEnd("\r");
-    EXPECT_EQ(empty.IsEnded(), 0);
-    EXPECT_EQ(onlyEnd.IsEnded(), 1);
-    EXPECT_EQ(CStringEx("ab\rc").IsEnded(), 0);
-    EXPECT_EQ(empty.GetVisibleLength(), 0);
-    EXPECT_EQ(onlyEnd.GetVisibleLength(), 0);
-    EXPECT_EQ(empty.GetFirstWordLength(), 0);
-    EXPECT_EQ(onlyEnd.GetFirstWordLength(), 0);
-
-    CStringEx blanks("   ");
-    EXPECT_EQ(blanks.GetVisibleLength(), 0);
-    EXPECT_EQ(blanks.GetFirstWordLength(), 3);
-    EXPECT_EQ(CStringEx(" \t \r").GetVisibleLength(), 0);
-    EXPECT_EQ(CStringEx(" \t \r").GetFirstWordLength(), 3);
-
-    EXPECT_EQ(CStringEx("  ab \t\r").GetVisibleLength(), 4);
-    EXPECT_EQ(CStringEx("ab-").GetVisibleLength(), 3);  // hyphen is not a blank
-
-    EXPECT_EQ(CStringEx("   abc def").GetFirstWordLength(), 6);
-    EXPECT_EQ(CStringEx("\tab-cd").GetFirstWordLength(), 3);
-    EXPECT_EQ(CStringEx("-abc").GetFirstWordLength(), 1);
-    EXPECT_EQ(CStringEx("abc\r").GetFirstWordLength(), 3);
-    EXPECT_EQ(CStringEx("ab\rcd e").GetFirstWordLength(), 5);         // 13 does not stop the word
-    EXPECT_EQ(CStringEx("\xE9\xAD\xA0x y").GetFirstWordLength(), 4);  // high bytes are letters
+    // A hyphen is no blank; 13 does not stop a word; high bytes are letters.
+    const struct {
+        const char* psz;
+        int ended, visible, firstWord;
+    } cases[] = {{"", 0, 0, 0},           {"\r", 1, 0, 0},          {"ab\rcd e", 0, 7, 5},
+                 {"   ", 0, 0, 3},        {" \t \r", 1, 0, 3},      {"  ab \t\r", 1, 4, 4},
+                 {"ab-", 0, 3, 2},        {"   abc def", 0, 10, 6}, {"\tab-cd", 0, 6, 3},
+                 {"-abc", 0, 4, 1},       {"abc\r", 1, 3, 3},       {"\xE9\xAD\xA0x y", 0, 6, 4}};
+    for (const auto& c : cases) {
+        CStringEx s(c.psz);
+        EXPECT_EQ(s.IsEnded(), c.ended) << c.psz;
+        EXPECT_EQ(s.GetVisibleLength(), c.visible) << c.psz;
+        EXPECT_EQ(s.GetFirstWordLength(), c.firstWord) << c.psz;
+    }
 }
 
-TEST(StringEx, InsertAndRemoveAroundTheTerminator) {
+TEST(StringEx, InsertRemoveAndPadAroundTheTerminator) {
     CStringEx s("ab\r");
     s.InsertChar(1, 'X');
-    EXPECT_EQ(Bytes(s), "aXb\r");
     s.InsertChar(99, 'Y');
     EXPECT_EQ(Bytes(s), "aXb\rY");
 
-    CStringEx keep("abc\r");
-    keep.RemoveChar(0, 100, 1);
-    EXPECT_EQ(Bytes(keep), "\r");
-    keep.RemoveChar(0, 1, 1);  // only the terminator left to protect
-    EXPECT_EQ(Bytes(keep), "\r");
+    // {text, start, count, keep the end, result}
+    const struct {
+        const char *psz;
+        int nStart, nCount, bKeepEnd;
+        const char* result;
+    } removals[] = {{"abc\r", 0, 100, 1, "\r"}, {"\r", 0, 1, 1, "\r"},      {"abc\r", 0, 100, 0, ""},
+                    {"abcdef", -1, 2, 0, "abcdef"}, {"abcdef", 6, 2, 0, "abcdef"},
+                    {"abcdef", 2, 0, 0, "abcdef"},  {"abcdef", 1, 2, 1, "adef"},
+                    {"adef", 2, 0x7fffffff, 0, "ad"}};
+    for (const auto& r : removals) {
+        CStringEx line(r.psz);
+        line.RemoveChar(r.nStart, r.nCount, r.bKeepEnd);
+        EXPECT_EQ(Bytes(line), r.result) << r.psz << " " << r.nStart << " " << r.nCount;
+    }
 
-    CStringEx drop("abc\r");
-    drop.RemoveChar(0, 100, 0);
-    EXPECT_EQ(Bytes(drop), "");
-
-    CStringEx mid("abcdef");
-    mid.RemoveChar(-1, 2, 0);
-    mid.RemoveChar(6, 2, 0);
-    mid.RemoveChar(2, 0, 0);
-    EXPECT_EQ(Bytes(mid), "abcdef");
-    mid.RemoveChar(1, 2, 1);  // not ended: keep-end changes nothing
-    EXPECT_EQ(Bytes(mid), "adef");
-    mid.RemoveChar(2, 0x7fffffff, 0);
-    EXPECT_EQ(Bytes(mid), "ad");
+    CStringEx ab("ab");
+    ab.EnsureEnded();
+    ab.EnsureEnded();
+    EXPECT_EQ(Bytes(ab), "ab\r");
+    const struct {
+        const char* psz;
+        int nLength;
+        const char* result;
+    } pads[] = {{"abc", 6, "abc   "}, {"abc   ", 4, "abc   "}, {"abc\r", 6, "abc\r   \r"},
+                {"abc\r", 3, "abc\r"}};
+    for (const auto& p : pads) {
+        CStringEx line(p.psz);
+        line.EnsureMinimumLength(p.nLength);
+        EXPECT_EQ(Bytes(line), p.result) << p.psz << " " << p.nLength;
+    }
 }
 
-TEST(StringEx, EnsureEndedAndMinimumLength) {
-    CStringEx s("ab");
-    s.EnsureEnded();
-    s.EnsureEnded();
-    EXPECT_EQ(Bytes(s), "ab\r");
-
-    CStringEx plain("abc");
-    plain.EnsureMinimumLength(6);
-    EXPECT_EQ(Bytes(plain), "abc   ");
-    plain.EnsureMinimumLength(4);
-    EXPECT_EQ(Bytes(plain), "abc   ");
-
-    CStringEx ended("abc\r");
-    ended.EnsureMinimumLength(6);
-    EXPECT_EQ(Bytes(ended), "abc\r   \r");
-    CStringEx full("abc\r");
-    full.EnsureMinimumLength(3);
-    EXPECT_EQ(Bytes(full), "abc\r");
-}
-
-TEST(StringEx, TransferStartByByteAndByWord) {
-    // Each result reads "target|rest of the line".
+TEST(StringEx, TransfersByByteAndByWord) {
     EXPECT_EQ(Up("x ", "-abc", 1), "x -a|bc");
     EXPECT_EQ(Up("", "  ab cd\r", 1), "  ab |cd\r");
     EXPECT_EQ(Up("ab ", "cd\r", 1), "ab cd|\r");  // last word: the terminator stays
@@ -111,14 +90,6 @@ TEST(StringEx, TransferStartByByteAndByWord) {
     EXPECT_EQ(Up("ab", "\r", 0), "ab\r|");
     EXPECT_EQ(Up("ab", "cd", 0), "abc|d");
 
-    CStringEx target("t"), empty;
-    EXPECT_EQ(empty.TransferStart(target, 1), 0);
-    EXPECT_EQ(empty.TransferStart(target, 0), 0);
-    EXPECT_EQ(Bytes(target), "t");
-}
-
-TEST(StringEx, TransferEndByByteAndByWord) {
-    // Each result reads "rest of the line|target".
     EXPECT_EQ(Down("ab cd\r", "x", 1), "ab |cd\rx");
     EXPECT_EQ(Down("abcd", "", 1), "abc|d");
     EXPECT_EQ(Down("ab  ", "", 1), "ab | ");      // a run of delimiters goes one at a time
@@ -126,38 +97,18 @@ TEST(StringEx, TransferEndByByteAndByWord) {
     EXPECT_EQ(Down("ab \r", "", 1), "ab |\r");
     EXPECT_EQ(Down("abc\r", "ef", 0), "abc|\ref");
 
-    CStringEx target("t"), empty;
+    // An empty line gives nothing.
+    CStringEx target("x"), empty;
+    EXPECT_EQ(empty.TransferStart(target, 1), 0);
+    EXPECT_EQ(empty.TransferStart(target, 0), 0);
     EXPECT_EQ(empty.TransferEnd(target, 1), 0);
-    EXPECT_EQ(Bytes(target), "t");
-}
+    empty.TransferStartingSpaces(target);
+    EXPECT_EQ(Bytes(target), "x");
 
-TEST(StringEx, TransferStartingSpaces) {
-    CStringEx target("x");
     CStringEx s(" \t ab ");
     s.TransferStartingSpaces(target);
-    EXPECT_EQ(Bytes(target), "x \t ");
     s.TransferStartingSpaces(target);  // no longer starts with a blank
-    EXPECT_EQ(Bytes(s), "ab ");
-    CStringEx empty;
-    empty.TransferStartingSpaces(target);
-    EXPECT_EQ(Bytes(target), "x \t ");
-}
-
-TEST(StringEx, SpecificInfoRoundTrip) {
-    CStringEx s;
-    s.m_dwBookmarks = 5;
-    std::unique_ptr<char[]> info(s.GetSpecificInfo());
-    EXPECT_STREQ(info.get(), "5");
-
-    CStringEx t;
-    t.SetSpecificInfo(info.get());
-    EXPECT_EQ(t.m_dwBookmarks, 5u);
-    s.m_dwBookmarks = 0xFFFF;
-    info.reset(s.GetSpecificInfo());
-    t.SetSpecificInfo(info.get());
-    EXPECT_EQ(t.m_dwBookmarks, 0xFFFFu);
-    t.SetSpecificInfo(nullptr);
-    EXPECT_EQ(t.m_dwBookmarks, 0u);
+    EXPECT_EQ(Bytes(target) + "|" + Bytes(s), "x \t |ab ");
 }
 
 TEST(StringEx, CopiesCarryBookmarksAndBlockFlags) {
@@ -169,18 +120,14 @@ TEST(StringEx, CopiesCarryBookmarksAndBlockFlags) {
     EXPECT_EQ(b.m_dwBookmarks, 3u);
     EXPECT_EQ(b.m_dwBlockFlags, 4u);
 
-    // Assigning a fresh line clears what the target had.
+    // Assigning a fresh line, or a text, clears what the target had.
     b = CStringEx("x");
-    EXPECT_EQ(Bytes(b), "x");
-    EXPECT_EQ(b.m_dwBookmarks, 0u);
-    EXPECT_EQ(b.m_dwBlockFlags, 0u);
-    // So does assigning a text, which makes a fresh line of it first.
+    EXPECT_EQ(b.m_dwBookmarks | b.m_dwBlockFlags, 0u);
     b.m_dwBookmarks = 1;
     b.m_dwBlockFlags = 2;
     b = "plain";
     EXPECT_EQ(Bytes(b), "plain");
-    EXPECT_EQ(b.m_dwBookmarks, 0u);
-    EXPECT_EQ(b.m_dwBlockFlags, 0u);
+    EXPECT_EQ(b.m_dwBookmarks | b.m_dwBlockFlags, 0u);
 
     // Through the base, only the text changes.
     static_cast<VESK::String&>(a) = "new";

@@ -20,10 +20,11 @@ protected:
         for (int i = 0; i < n; ++i)
             m_wnd.PostMessage(WM_TIMER, 1, 0);
     }
-    // Rests on a point long enough for a bubble.
-    void Rest(POINT pt) {
+    // Rests on a point long enough for a bubble; whether one is open.
+    bool Rest(POINT pt) {
         Timers(8);
         Move(pt);
+        return m_zone.m_pBubble != nullptr;
     }
     RECT BubbleRect() {
         RECT rc{};
@@ -42,8 +43,7 @@ TEST_F(BubbleTest, OpensAfterTheWaitUnderTheLine) {
     Move(At(0, 5));
     EXPECT_EQ(m_zone.m_pBubble, nullptr);
     m_platform.ClearPostedMessages();
-    Rest(At(0, 5));
-    ASSERT_NE(m_zone.m_pBubble, nullptr);
+    ASSERT_TRUE(Rest(At(0, 5)));
     EXPECT_EQ(CTooltipBubble::GetCurrent(), m_zone.m_pBubble);
     EXPECT_EQ(CWnd::GetCapture(), m_zone.m_pBubble);
     EXPECT_EQ(m_platform.GetHookCount(), 1);
@@ -94,8 +94,7 @@ TEST_F(BubbleTest, InputDuringTheWaitCancelsIt) {
 }
 
 TEST_F(BubbleTest, HelpTextAndSwitchingTips) {
-    Rest(At(2, 1));
-    ASSERT_NE(m_zone.m_pBubble, nullptr);
+    ASSERT_TRUE(Rest(At(2, 1)));
     EXPECT_STREQ(m_zone.m_pBubble->GetText().c_str(), "Help\r\nmore");
     EXPECT_EQ(m_zone.m_pBubble->GetLines().size(), 2u);
     EXPECT_EQ(m_zone.m_nBubbleLine, 2);
@@ -107,8 +106,7 @@ TEST_F(BubbleTest, HelpTextAndSwitchingTips) {
 }
 
 TEST_F(BubbleTest, KeysCloseItButReleasingShiftOrF2DoesNot) {
-    Rest(At(0, 5));
-    ASSERT_NE(m_zone.m_pBubble, nullptr);
+    ASSERT_TRUE(Rest(At(0, 5)));
     m_platform.InjectHookKey(VK_SHIFT, true);
     m_platform.InjectHookKey(VK_F2, true);
     EXPECT_NE(m_zone.m_pBubble, nullptr);
@@ -118,23 +116,19 @@ TEST_F(BubbleTest, KeysCloseItButReleasingShiftOrF2DoesNot) {
 
     // The mouse that has not moved does not bring it back, though the wait
     // runs out again.
-    Rest(At(0, 5));
-    EXPECT_EQ(m_zone.m_pBubble, nullptr);
-    Rest(At(0, 6));
-    ASSERT_NE(m_zone.m_pBubble, nullptr);
+    EXPECT_FALSE(Rest(At(0, 5)));
+    ASSERT_TRUE(Rest(At(0, 6)));
     m_platform.InjectHookKey('X', true);  // any other release
     EXPECT_EQ(m_zone.m_pBubble, nullptr);
 
     // A key that reaches the zone closes it too.
-    Rest(At(0, 7));
-    ASSERT_NE(m_zone.m_pBubble, nullptr);
+    ASSERT_TRUE(Rest(At(0, 7)));
     m_wnd.SendMessage(WM_KEYDOWN, VK_DOWN, 0);
     EXPECT_EQ(m_zone.m_pBubble, nullptr);
 }
 
 TEST_F(BubbleTest, AClickClosesItAndReachesTheTextUnderIt) {
-    Rest(At(0, 5));
-    ASSERT_NE(m_zone.m_pBubble, nullptr);
+    ASSERT_TRUE(Rest(At(0, 5)));
     m_platform.ClearPostedMessages();
     // A click at the bubble's (2, 2) lies on the zone's line 2.
     CWnd* pBubble = m_zone.m_pBubble;
@@ -142,18 +136,15 @@ TEST_F(BubbleTest, AClickClosesItAndReachesTheTextUnderIt) {
     EXPECT_EQ(m_zone.m_pBubble, nullptr);
     auto posted = m_platform.GetPostedMessages();
     ASSERT_EQ(posted.size(), 1u);
-    EXPECT_EQ(posted[0].hwnd, &m_wnd);
-    EXPECT_EQ(posted[0].message, WM_LBUTTONDOWN);
-    EXPECT_EQ(posted[0].wParam, static_cast<WPARAM>(MK_LBUTTON));
-    const POINT p = At(0, 5);
-    EXPECT_EQ(posted[0].lParam, MAKELPARAM(p.x + 2, 17 + 2));
+    const MSG& msg = posted[0];
+    EXPECT_TRUE(msg.hwnd == &m_wnd && msg.message == WM_LBUTTONDOWN && msg.wParam == MK_LBUTTON);
+    EXPECT_EQ(msg.lParam, MAKELPARAM(At(0, 5).x + 2, 17 + 2));
     m_platform.PumpMessages();
     EXPECT_EQ(m_wnd.Count(WM_LBUTTONDOWN), 1);
 
     // Moves over the bubble always go on to the zone's window.
     m_platform.ClearPostedMessages();
-    Rest(At(0, 6));
-    ASSERT_NE(m_zone.m_pBubble, nullptr);
+    ASSERT_TRUE(Rest(At(0, 6)));
     m_platform.ClearPostedMessages();
     m_zone.m_pBubble->SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(1, 1));
     posted = m_platform.GetPostedMessages();
@@ -169,12 +160,10 @@ TEST_F(BubbleTest, AClickClosesItAndReachesTheTextUnderIt) {
 }
 
 TEST_F(BubbleTest, FocusLossAndTheLeftButtonCloseIt) {
-    Rest(At(0, 5));
-    ASSERT_NE(m_zone.m_pBubble, nullptr);
+    ASSERT_TRUE(Rest(At(0, 5)));
     Move(At(0, 6), MK_LBUTTON);
     EXPECT_EQ(m_zone.m_pBubble, nullptr);
-    Rest(At(0, 7));
-    ASSERT_NE(m_zone.m_pBubble, nullptr);
+    ASSERT_TRUE(Rest(At(0, 7)));
     m_platform.SetFocus(nullptr);
     Move(At(0, 8));
     EXPECT_EQ(m_zone.m_pBubble, nullptr);

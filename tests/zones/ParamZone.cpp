@@ -1,16 +1,11 @@
 #include "ParamZone.h"
 
-#include "platform/headless/HeadlessFonts.h"
+#include "support/ZoneTest.h"
 
 void ParamTest::SetUp() {
     HeadlessTest::SetUp();
-    LOGFONTA lf = CHeadlessFonts::MakeFont(CHeadlessFonts::kFixedFace, 16);
-    m_font.CreateFontIndirect(&lf);
-    m_zone.SetWindow(&m_wnd);
-    RECT client;
-    m_wnd.GetClientRect(&client);
-    m_zone.SetRect(&client);
-    m_zone.SetFont(m_font);
+    CreateFixedFont(m_font);
+    AttachZone(m_zone, m_wnd, m_font);
     m_zone.SetSQLSyntaxColor(kTransactSql);
     m_wnd.SetFocus();
 }

@@ -3,7 +3,7 @@
 #include <cstdio>
 
 #include "platform/DC.h"
-#include "platform/headless/HeadlessFonts.h"
+#include "support/ZoneTest.h"
 
 LRESULT CZoneWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     POINT pt{static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
@@ -36,13 +36,8 @@ void ReadOnlyTest::SetUp() {
     ASSERT_TRUE(m_wnd.Create(WS_VISIBLE, RECT{10, 20, 410, 320}, nullptr, 1));
     m_wnd.m_pZone = &m_zone;
     m_wnd.m_pPlatform = &m_platform;
-    LOGFONTA lf = CHeadlessFonts::MakeFont(CHeadlessFonts::kFixedFace, 16);
-    m_font.CreateFontIndirect(&lf);
-    m_zone.SetWindow(&m_wnd);
-    RECT client;
-    m_wnd.GetClientRect(&client);
-    m_zone.SetRect(&client);
-    m_zone.SetFont(m_font);
+    CreateFixedFont(m_font);
+    AttachZone(m_zone, m_wnd, m_font);
     m_zone.EnableSyntaxColor(0, 0, 0, 0, 0, 0, 0);
     m_zone.SetColors(kText, kBack, kSelText, kSelBack);
     m_wnd.SetFocus();
