@@ -10,6 +10,7 @@
 // the value is read out as a DWORD: `DWORD dw = pLine->m_dwBlockFlags`.
 class CLineFlags {
     friend class CStringEx;
+    friend class CTextZone;  // sets many at once and counts them itself
     CLineFlags() = default;
     CLineFlags(const CLineFlags& src) = default;
 
@@ -43,6 +44,7 @@ private:
         if ((dwOld ^ dw) & 4) NoteHidden();
     }
     void NoteHidden();  // StringEx.cpp: finds the line and tells its zone
+    void SetUnnoted(DWORD dw) { m_dw = dw; }
 
     DWORD m_dw = 0;
 };

@@ -13,6 +13,8 @@
 #include <memory>
 #include <new>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "TextzoneExport.h"
 #include "host/GraphicText.h"
@@ -306,6 +308,14 @@ protected:
     // Shows the lines [nFrom, nTo) again unless a closed block still hides
     // them: they were hidden by a block that went with its first line.
     void ShowOrphanedLines(int nFrom, int nTo);
+
+    // Closes the edit blocks at the heads and makes the alternate blocks
+    // (first line, count) of a status string in one pass over the store,
+    // leaving what the calls of CloseBlock and CreateClosedAltBlock in the
+    // string's order leave, redraws aside. Returns false, having changed
+    // nothing, where those calls could meet other alternate blocks.
+    bool CloseSavedBlocks(std::vector<int>& heads,
+                          const std::vector<std::pair<int, int>>& alternates);
 
     // Replays a TZ_UNIT_LINE_IMAGES unit and files its inverse.
     void ReplayLineImages(const CUndoUnit& unit);

@@ -106,25 +106,34 @@ void CTextZone::SetEditorBlockStatus(VESK::String& strStatus) {
     if (check1 != static_cast<std::uint32_t>(nSize) || check2 != static_cast<std::uint32_t>(nHash))
         return;
 
-    // Each close asks to redraw from its head down; one request from the
-    // topmost head covers them all, and costs one position lookup instead
-    // of one per block.
-    const int bRedraw = m_bRedraw;
-    m_bRedraw = 0;
-    std::uint32_t nTop = kMaxField + 1;
     // A string cut short applies what it holds up to the cut.
+    std::vector<int> heads;
+    std::vector<std::pair<int, int>> alternates;
+    std::uint32_t nTop = kMaxField + 1;
     for (std::uint32_t i = 0; i < nClosed; ++i) {
         std::uint32_t nLine = 0;
         if (!reader.Read(6, &nLine)) break;
-        CloseBlock(static_cast<int>(nLine), 0);
+        heads.push_back(static_cast<int>(nLine));
         nTop = std::min(nTop, nLine);
     }
     for (std::uint32_t i = 0; i < nAlternate; ++i) {
         std::uint32_t nLine = 0;
         std::uint32_t nCount = 0;
         if (!reader.Read(6, &nLine) || !reader.Read(6, &nCount)) break;
-        CreateClosedAltBlock(static_cast<int>(nLine), static_cast<int>(nCount), 0);
+        alternates.emplace_back(static_cast<int>(nLine), static_cast<int>(nCount));
         nTop = std::min(nTop, nLine);
+    }
+
+    // Each close asks to redraw from its head down; one request from the
+    // topmost head covers them all, and costs one position lookup instead
+    // of one per block.
+    const int bRedraw = m_bRedraw;
+    m_bRedraw = 0;
+    if (!CloseSavedBlocks(heads, alternates)) {
+        for (int nLine : heads)
+            CloseBlock(nLine, 0);
+        for (const auto& [nLine, nCount] : alternates)
+            CreateClosedAltBlock(nLine, nCount, 0);
     }
     m_bRedraw = bRedraw;
     if (nTop <= kMaxField) RedrawLines(static_cast<int>(nTop), TZ_TO_END, 0);

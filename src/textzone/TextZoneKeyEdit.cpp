@@ -138,7 +138,15 @@ void CTextZone::KeyBackDelete(int bBackspace) {
 
     const int linesBefore = GetLineCount();
     StartRegister(bBackspace ? TZ_EDIT_BACKSPACE : TZ_EDIT_DELETE);
-    RegisterUnit(bBackspace ? 2 : 3);
+    if (!bBackspace && (m_dwStyle & ZS_FREECARET) && pLine->IsEnded() && ch >= pLine->GetLength()) {
+        // Delete behind an ended line pads it up to the caret first, and
+        // the padding is recorded as typed text: undo puts the line end
+        // back and then takes the blanks out.
+        KeySetTypingRoot();
+        PadText(*pLine, ch);
+        RegisterUnit(TZ_UNIT_TYPED);
+    }
+    RegisterUnit(bBackspace ? TZ_UNIT_CHAR_BEFORE : TZ_UNIT_CHAR_AT);
     int first = line;
     int last = line;
     if (bBackspace) {
@@ -166,12 +174,8 @@ void CTextZone::KeyBackDelete(int bBackspace) {
         } else if (ch < raw) {
             pLine->RemoveChar(ch, 1, 0);
         } else if (m_dwStyle & ZS_FREECARET) {
-            if (pLine->IsEnded()) {
-                pLine->discardRight(1);
-                PadText(*pLine, ch);
-                JoinLines(*this, line);
-                last = TZ_TO_END;
-            }
+            // Behind an unended line there is nothing to delete (an ended
+            // one was padded up to the caret above).
         } else {
             // Behind a wrapped line the next line's first byte goes.
             CStringEx* pNext = GetLine(line + 1);

@@ -171,7 +171,9 @@ void CTextZone::DropEmptiedLastLine() {
     // Line 0 stays: an empty text keeps its one empty line.
     if (line < 1 || !pLine || !pLine->IsEmpty() || line != GetLastLineIndex()) return;
     const CStringEx* pPrev = GetLine(line - 1);
-    if (pPrev && pPrev->IsEnded()) RemoveLines(line, 1);
+    if (!pPrev || !pPrev->IsEnded()) return;
+    RemoveLines(line, 1);
+    RebuildCurrentLength();
 }
 
 void CTextZone::PerformUndoing(CUndoOperation* pOperation) {

@@ -60,6 +60,13 @@ TEST_F(UndoRoundTripTest, PaddingOfAFreeCaretGoesWithTheEditThatMadeIt) {
     m_zone.EndRegister();
     EXPECT_EQ(Line(0), "ab    d");
     ExpectRoundTrip(before);
+
+    // So does Delete behind a line's end, which joins the next line on.
+    m_zone.SetText("ab\r\ncd\r\n");
+    Caret(0, 4);
+    Press(VK_DELETE);
+    EXPECT_EQ(Line(0), "ab  cd\r");
+    ExpectRoundTrip("ab\r\ncd\r\n");
 }
 
 TEST_F(UndoRoundTripTest, BoxTextBehindTheLastLineGoesOnLinesOfItsOwn) {
