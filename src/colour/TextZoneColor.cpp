@@ -55,7 +55,7 @@ CTextZoneColor::~CTextZoneColor() {
 }
 
 CStringEx* CTextZoneColor::CreateLine() {
-    return new CStringExColor;
+    return NewLine<CStringExColor>();
 }
 
 CStringExColor* CTextZoneColor::GetColorLine(int nLine) {

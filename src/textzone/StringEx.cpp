@@ -96,6 +96,10 @@ CStringEx& CStringEx::insertAt(int nPos, const VESK::String& s) {
     return Noted([&] { VESK::String::insertAt(nPos, s); });
 }
 
+void CStringEx::AdoptBytes(char* p, int nLength) {
+    Noted([&] { UseBytes(p, nLength); });
+}
+
 void CStringEx::Empty() {
     Noted([&] { VESK::String::Empty(); });
 }

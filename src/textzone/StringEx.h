@@ -76,6 +76,11 @@ public:
 
 private:
     friend class CLineFlags;
+    friend class CTextZone;  // lends a loaded line its bytes (AdoptBytes)
+    // The line's text becomes the nLength bytes at p (a 0 behind them), lent
+    // by its zone: written in place while the text fits, copied out when it
+    // grows beyond them.
+    void AdoptBytes(char* p, int nLength);
     // Tells the owning zone of a change, and if the length is no longer
     // nOld, of that too.
     void NoteLength(int nOld);

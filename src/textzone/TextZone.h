@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <list>
 #include <memory>
+#include <new>
 #include <string>
 #include <utility>
 #include <vector>
@@ -21,6 +22,7 @@
 #include "platform/Types.h"
 #include "textzone/BlockList.h"
 #include "textzone/EditBlk.h"
+#include "textzone/LinePool.h"
 #include "textzone/StringEx.h"
 #include "textzone/UndoOperation.h"
 
@@ -136,6 +138,14 @@ public:
 
 protected:
     virtual CStringEx* CreateLine();
+    // A new line of class T in the zone's own line memory, for CreateLine;
+    // the store gives it back there when the line goes.
+    template <class T>
+    CStringEx* NewLine() {
+        static_assert(alignof(T) <= __STDCPP_DEFAULT_NEW_ALIGNMENT__);
+        if (void* p = m_linePool.AllocateLine(sizeof(T))) return new (p) T;
+        return new T;
+    }
     virtual void DrawTextLine(CDC* pDC, int nLine);
     virtual CDC* GetStandardDC();
     virtual void ReleaseStandardDC(CDC* pDC);
@@ -365,6 +375,11 @@ protected:
     // of a range is found without visiting the lines.
     void NewStoreBlock(int nBlock);
     void FreeStoreBlock(int nBlock);
+    // Destroys a line that CreateLine made, wherever its memory came from.
+    void DestroyLine(CStringEx* pLine);
+    // Gives a new, empty line of the store nCount bytes of pszText, ended
+    // with the byte 13 if bEnded, held in the zone's text memory.
+    void SetLoadedLine(CStringEx* pLine, const char* pszText, int nCount, bool bEnded);
     void PutSlot(int nBlock, int nIndex, CStringEx* pLine);
     // memmove-like within one block or between two.
     void MoveSlots(int nToBlock, int nToIndex, int nFromBlock, int nFromIndex, int nCount);
@@ -399,8 +414,8 @@ protected:
     void RebuildLineLengths();
     static std::uint32_t TakeIndex(CTextZone* pZone);
     static void ReleaseIndex(std::uint32_t nIndex);
-    // The number of lines a stream insertion of pszText makes.
-    static long long CountTextLines(const char* pszText);
+    // The number of lines a stream insertion of pszText makes; its length in pLength.
+    static long long CountTextLines(const char* pszText, size_t* pLength = nullptr);
     // Grows the empty store at once to the capacity the insertion of
     // nLines lines would have grown it to step by step.
     void ReserveLines(long long nLines);
@@ -501,6 +516,8 @@ public:
     // m_nGranularity line pointers, of which m_pBlockSizes tells how many
     // are in use. The zone owns the lines.
     std::unique_ptr<std::unique_ptr<CStringEx*[]>[]> m_ppBlocks;
+    // Where the lines and the text of a load live (LinePool.h).
+    CLinePool m_linePool;
     int m_nBlockCount = 0;
     std::unique_ptr<int[]> m_pBlockSizes;
     // Raw lengths beside the line pointers, and per block the longest one

@@ -101,13 +101,23 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
         bool created = false;
         CStringEx* pLine = nullptr;
         CStringEx* pTail = nullptr;
+        // A load: the new lines take their bytes from the zone's text memory.
+        bool loading = false;
         if (GetLastLineIndex() >= TZ_MAX_LINES) {
             result = 0;
         } else {
             // Into an empty store the lines come in order: size it for them at
             // once instead of re-laying every line at each step of growth.
-            if (m_nLineCount == 0 && !paragraphs)
-                ReserveLines(std::min<long long>(CountTextLines(pszText) + 1, TZ_MAX_LINES + 1LL));
+            if (m_nLineCount == 0 && !paragraphs) {
+                size_t length = 0;
+                const long long lines =
+                    std::min<long long>(CountTextLines(pszText, &length) + 1, TZ_MAX_LINES + 1LL);
+                ReserveLines(lines);
+                loading = true;
+                m_linePool.ExpectLines(static_cast<size_t>(lines));
+                // Each line's bytes, its 13 for the source's line end and a 0.
+                m_linePool.ExpectText(length + 2 * static_cast<size_t>(lines));
+            }
             pLine = GetLine(L);
             if (!pLine) {
                 // On the place behind an unended last line: end that line first,
@@ -171,8 +181,12 @@ int CTextZone::InsertText(const char* pszText, int bSelect, int bScroll, int bHo
                 if (start == 0 && pTarget->IsEmpty()) {
                     // A new line: its bytes and its end in one allocation.
                     const int ended = p[n] != 0 ? 1 : 0;
-                    pTarget->assign(p, n + ended);
-                    if (ended) pTarget->replaceAt(n, kLineEnd);
+                    if (loading) {
+                        SetLoadedLine(pTarget, p, n, ended != 0);
+                    } else {
+                        pTarget->assign(p, n + ended);
+                        if (ended) pTarget->replaceAt(n, kLineEnd);
+                    }
                 } else {
                     *pTarget += VESK::String(p, n);
                     if (p[n] != 0) *pTarget += kLineEnd;

@@ -275,8 +275,9 @@ int CTextZone::FindLongestLine(int nFirst, int nLast) {
     return bestLine;
 }
 
-long long CTextZone::CountTextLines(const char* pszText) {
+long long CTextZone::CountTextLines(const char* pszText, size_t* pLength) {
     const size_t length = std::strlen(pszText);
+    if (pLength) *pLength = length;
     const char* end = pszText + length;
     long long ends = 0;
     for (const char* p = pszText;

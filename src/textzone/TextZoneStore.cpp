@@ -54,7 +54,25 @@ CTextZone::~CTextZone() {
 }
 
 CStringEx* CTextZone::CreateLine() {
-    return new CStringEx;
+    return NewLine<CStringEx>();
+}
+
+void CTextZone::DestroyLine(CStringEx* pLine) {
+    if (m_linePool.OwnsLine(pLine)) {
+        pLine->~CStringEx();
+        m_linePool.FreeLine(pLine);
+    } else {
+        delete pLine;
+    }
+}
+
+void CTextZone::SetLoadedLine(CStringEx* pLine, const char* pszText, int nCount, bool bEnded) {
+    const int length = nCount + (bEnded ? 1 : 0);
+    char* bytes = m_linePool.AllocateText(static_cast<size_t>(length) + 1);
+    std::memcpy(bytes, pszText, static_cast<size_t>(nCount));
+    if (bEnded) bytes[nCount] = 13;
+    bytes[length] = '\0';
+    pLine->AdoptBytes(bytes, length);
 }
 
 int CTextZone::GetLineIndexes(int nLine, int* pBlock, int* pIndex) {
@@ -108,14 +126,14 @@ CStringEx* CTextZone::InsertLine(int nLine) {
     CStringEx* pNew = CreateLine();
     if (!pNew) return nullptr;
     if (nLine < 0) {
-        delete pNew;
+        DestroyLine(pNew);
         return nullptr;
     }
 
     for (;;) {
         const int g = m_nGranularity;
         if (nLine > 0 && !GetLine(nLine - 1)) {
-            delete pNew;
+            DestroyLine(pNew);
             return nullptr;
         }
 
@@ -308,7 +326,7 @@ void CTextZone::RemoveLines(int nFirst, int nCount) {
             i1 = 0;
             continue;
         }
-        delete m_ppBlocks[b1][i1];
+        DestroyLine(m_ppBlocks[b1][i1]);
         m_ppBlocks[b1][i1] = nullptr;
         ForgetLongest(b1);
         ++i1;
@@ -355,6 +373,8 @@ void CTextZone::RemoveLines(int nFirst, int nCount) {
         removeBlocks(b0, 1);
         m_nCacheLine = -1;
     }
+    // With no line left, no byte of the line memory is in use.
+    if (m_nLineCount == 0) m_linePool.Reset();
     for (const auto& [from, to] : orphaned)
         ShowOrphanedLines(static_cast<int>(from), static_cast<int>(to));
     // The cache may now name nFirst behind b0's end (a null for that one lookup);
@@ -383,12 +403,20 @@ void CTextZone::ShowOrphanedLines(int nFrom, int nTo) {
 void CTextZone::FreeAllLines() {
     m_bCheckValid = false;
     for (int b = 0; b < m_nBlockCount; ++b) {
-        for (int k = 0; k < m_pBlockSizes[b]; ++k)
-            delete m_ppBlocks[b][k];
+        for (int k = 0; k < m_pBlockSizes[b]; ++k) {
+            // A pooled line's memory goes with the pool below.
+            CStringEx* pLine = m_ppBlocks[b][k];
+            if (m_linePool.OwnsLine(pLine))
+                pLine->~CStringEx();
+            else
+                delete pLine;
+        }
         FreeStoreBlock(b);
         m_pBlockSizes[b] = 0;
     }
     m_nBlockCount = 0;
+    // The lines' memory goes in a few blocks instead of one by one.
+    m_linePool.Reset();
     m_bLengthsStale = false;
     m_nLineCount = 0;
     m_nCurrentLength = 0;

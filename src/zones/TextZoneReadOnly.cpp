@@ -22,7 +22,7 @@ CTextZoneReadOnly::~CTextZoneReadOnly() {
 }
 
 CStringEx* CTextZoneReadOnly::CreateLine() {
-    return new CStringExReadOnly();
+    return NewLine<CStringExReadOnly>();
 }
 
 CStringExReadOnly* CTextZoneReadOnly::GetReadOnlyLine(int nLine) {
