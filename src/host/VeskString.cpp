@@ -38,18 +38,8 @@ String::String(const String& src) {
 }
 
 String::String(String&& src) noexcept {
-    if (src.m_nKind == kHeap) {
-        m_pBytes = src.m_pBytes;
-        m_nLength = src.m_nLength;
-        m_nCapacity = src.m_nCapacity;
-        m_nKind = kHeap;
-        src.m_nKind = kInline;
-        src.m_nCapacity = kInlineCapacity;
-        src.SetLength(0);
-    } else {
-        // Inline bytes go with the object; lent ones are not ours to hand on.
-        Splice(0, 0, src.Data(), src.m_nLength);
-    }
+    // A new string is an empty inline one: the assignment does the rest.
+    *this = std::move(src);
 }
 
 String& String::operator=(const String& src) {
@@ -69,6 +59,7 @@ String& String::operator=(String&& src) noexcept {
         src.m_nCapacity = kInlineCapacity;
         src.SetLength(0);
     } else {
+        // Inline bytes go with the object; lent ones are not ours to hand on.
         Splice(0, m_nLength, src.Data(), src.m_nLength);
     }
     return *this;
