@@ -113,17 +113,6 @@ const char* SwapPieces(CStringEx& line, const char* p, int count, std::string* p
     return end;
 }
 
-void FileUnit(CUndoOperation& op, std::unique_ptr<CUndoUnit> pUnit) {
-    if (op.IsGroup())
-        op.m_group.push_back(std::move(pUnit));
-    else if (!op.m_pFirst)
-        op.m_pFirst = std::move(pUnit);
-    else if (!op.m_pSecond)
-        op.m_pSecond = std::move(pUnit);
-    else
-        op.m_group.push_back(std::move(pUnit));
-}
-
 }  // namespace
 
 bool CTextZone::AdvanceSlot(int* pBlock, int* pIndex, int nLines) {
@@ -265,7 +254,7 @@ int CTextZone::ReplaceAllInPlace(const char* pszFind, const char* pszReplace, in
     pUnit->m_nFirstLine = firstLine;
     pUnit->m_nLastLine = lastLine;
     pUnit->m_hText = std::move(record);
-    FileUnit(*m_pCurrentOperation, std::move(pUnit));
+    m_pCurrentOperation->Add(std::move(pUnit));
 
     RebuildCurrentLength();
     // An empty replacement inserts nothing, and InsertText stops before the
@@ -347,7 +336,7 @@ void CTextZone::ReplayLineImages(const CUndoUnit& unit) {
             SwapPieces(*line.pLine, line.p, line.count, &other, scratch);
         }
     }
-    if (m_pCurrentOperation) FileUnit(*m_pCurrentOperation, std::move(pInverse));
+    if (m_pCurrentOperation) m_pCurrentOperation->Add(std::move(pInverse));
 
     RebuildCurrentLength();
     UpdateHScrollBar(unit.m_nFirstLine, TZ_TO_END);

@@ -253,15 +253,7 @@ void CTextZone::RegisterUnit(WORD wKind) {
     }
     if (!keep) return;
 
-    CUndoOperation& op = *m_pCurrentOperation;
-    if (op.IsGroup())
-        op.m_group.push_back(std::move(pUnit));
-    else if (!op.m_pFirst)
-        op.m_pFirst = std::move(pUnit);
-    else if (!op.m_pSecond)
-        op.m_pSecond = std::move(pUnit);
-    else
-        op.m_group.push_back(std::move(pUnit));  // rare: padding made room first
+    m_pCurrentOperation->Add(std::move(pUnit));
 }
 
 void CTextZone::EndRegister() {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "TextzoneExport.h"
@@ -12,6 +13,16 @@
 class TEXTZONE_EXPORT CUndoOperation {
 public:
     bool IsGroup() const { return (m_wType & 0x8000) != 0; }
+    // Files a unit: into the group, else the first free of the two places,
+    // else the group (rare: an edit whose padding made room first).
+    void Add(std::unique_ptr<CUndoUnit> pUnit) {
+        if (!IsGroup() && !m_pFirst)
+            m_pFirst = std::move(pUnit);
+        else if (!IsGroup() && !m_pSecond)
+            m_pSecond = std::move(pUnit);
+        else
+            m_group.push_back(std::move(pUnit));
+    }
 
     WORD m_wType = 0;
     std::unique_ptr<CUndoUnit> m_pFirst;
